@@ -1,0 +1,29 @@
+#pragma once
+// Reads a file as bytes, whatever they are.
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "text/disk.h"
+
+namespace norvik::text {
+
+/// A forward reader of bytes in blocks of any size, on top of large reads of the file.
+class ByteReader {
+ public:
+  /// Throws what Disk::openForReading throws.
+  ByteReader(const Disk& disk, std::string_view path);
+
+  /// Up to `count` bytes; fewer at the end of the file, none behind it. Good until the next call.
+  std::string_view read(std::size_t count);
+
+ private:
+  std::unique_ptr<HostFile> file_;
+  std::vector<char> buffer_;
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+};
+
+}  // namespace norvik::text

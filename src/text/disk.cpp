@@ -1,0 +1,369 @@
+#include "text/disk.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "text/classic_errors.h"
+#include "text/columns.h"
+#include "text/wildcards.h"
+
+namespace norvik::text {
+
+namespace {
+
+constexpr unsigned kOwnerMayWrite = 0200;
+constexpr unsigned kAnyMayWrite = 0222;
+constexpr int kMostLinks = 40;
+
+char driveLetter(char c) { return raised({&c, 1})[0]; }
+
+bool isSeparator(char c) { return c == '\\' || c == '/'; }
+
+std::string folderOf(const std::string& hostName) {
+  const auto slash = hostName.find_last_of('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : hostName.substr(0, slash);
+}
+
+std::string joined(const std::string& folder, std::string_view name) {
+  std::string result = folder;
+  if (!result.ends_with('/')) result += '/';
+  return result.append(name);
+}
+
+/// Adds the names of a path to `parts`, ".." taking one away.
+void addParts(std::string_view path, std::vector<std::string>& parts) {
+  while (!path.empty()) {
+    const auto* const end = std::find_if(path.begin(), path.end(), isSeparator);
+    const auto part = path.substr(0, static_cast<std::size_t>(end - path.begin()));
+    path.remove_prefix(std::min(part.size() + 1, path.size()));
+    if (part.empty() || part == ".") continue;
+    if (part != "..") {
+      parts.emplace_back(part);
+    } else if (!parts.empty()) {
+      parts.pop_back();
+    }
+  }
+}
+
+[[noreturn]] void raiseMissing(bool folderExists) {
+  throw FileError(folderExists ? ErrorNumber::fileNotFound : ErrorNumber::pathNotFound);
+}
+
+}  // namespace
+
+std::string_view fileTitle(std::string_view path) {
+  return path.substr(path.find_last_of('\\') + 1);
+}
+
+Disk::Disk(HostOps& host) : host_(host) {}
+
+void Disk::mount(char drive, std::string hostFolder) {
+  while (hostFolder.size() > 1 && hostFolder.ends_with('/')) hostFolder.pop_back();
+  drives_[driveLetter(drive)] = std::move(hostFolder);
+  if (currentFolder_.empty()) currentFolder_ = std::string{driveLetter(drive)} + ":\\";
+}
+
+bool Disk::hasDrive(char drive) const { return drives_.contains(driveLetter(drive)); }
+
+Disk::Path Disk::parse(std::string_view path) const {
+  if (path.empty() || path.find('\0') != std::string_view::npos) {
+    throw FileError(ErrorNumber::pathFileAccess);
+  }
+  const bool network = path.size() > 1 && isSeparator(path[0]) && isSeparator(path[1]);
+  if (network) throw FileError(ErrorNumber::pathNotFound);
+
+  Path result{};
+  std::string_view rest = path;
+  const bool named = path.size() > 1 && path[1] == ':';
+  if (named) rest.remove_prefix(2);
+  result.drive = named                    ? driveLetter(path[0])
+                 : currentFolder_.empty() ? '\0'
+                                          : driveLetter(currentFolder_[0]);
+  const bool fromRoot = !rest.empty() && isSeparator(rest[0]);
+  if (!fromRoot && !currentFolder_.empty() && driveLetter(currentFolder_[0]) == result.drive) {
+    addParts(from(currentFolder_, 3), result.parts);
+  }
+  addParts(rest, result.parts);
+  return result;
+}
+
+Disk::Place Disk::locate(std::string_view path) const { return locate(parse(path)); }
+
+Disk::Place Disk::locate(const Path& path) const {
+  const auto drive = drives_.find(path.drive);
+  if (drive == drives_.end()) throw FileError(ErrorNumber::pathNotFound);
+  Place place;
+  place.name = drive->second;
+  raise(host_.status(place.name, place.status));
+  for (const std::string& part : path.parts) {
+    place.inFolder = place.status.kind == HostStatus::Kind::folder;
+    std::string name = joined(place.name, part);
+    place.status = {};
+    if (place.inFolder) {
+      raise(host_.status(name, place.status));
+      std::vector<std::string> names;
+      if (!place.exists() && host_.list(place.name, names) == 0) {
+        // The one of the names that differ in case alone that comes first, always the same.
+        std::sort(names.begin(), names.end());
+        const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& other) {
+          return equalIgnoringCase(other, part);
+        });
+        if (found != names.end()) {
+          name = joined(place.name, *found);
+          raise(host_.status(name, place.status));
+        }
+      }
+    }
+    place.name = std::move(name);
+  }
+  return place;
+}
+
+Disk::Place Disk::locateExisting(std::string_view path) const {
+  Place place = locate(path);
+  if (!place.exists()) raiseMissing(place.inFolder);
+  return place;
+}
+
+Disk::Place Disk::locateFile(std::string_view path) const {
+  Place place = locateExisting(path);
+  if (place.status.kind != HostStatus::Kind::file) throw FileError(ErrorNumber::pathFileAccess);
+  return place;
+}
+
+Disk::Place Disk::locateWritable(std::string_view path) const {
+  Place place = locate(path);
+  if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound);
+  const bool refused = place.exists() && (place.status.kind != HostStatus::Kind::file ||
+                                          (place.status.mode & kOwnerMayWrite) == 0);
+  if (refused) throw FileError(ErrorNumber::pathFileAccess);
+  return place;
+}
+
+void Disk::changeFolder(std::string_view path) {
+  const Path parsed = parse(path);
+  if (locate(parsed).status.kind != HostStatus::Kind::folder) {
+    throw FileError(ErrorNumber::pathNotFound);
+  }
+  const char drive = path.size() > 1 && path[1] == ':' ? path[0] : currentFolder_[0];
+  currentFolder_ = std::string{drive} + ":";
+  for (const std::string& part : parsed.parts) currentFolder_ += "\\" + part;
+  if (parsed.parts.empty()) currentFolder_ += '\\';
+}
+
+bool Disk::exists(std::string_view path) const {
+  try {
+    return locate(path).status.kind == HostStatus::Kind::file;
+  } catch (const FileError&) {
+    return false;
+  }
+}
+
+bool Disk::folderExists(std::string_view path) const {
+  try {
+    return locate(path).status.kind == HostStatus::Kind::folder;
+  } catch (const FileError&) {
+    return false;
+  }
+}
+
+std::uint64_t Disk::size(std::string_view path) const { return locateFile(path).status.size; }
+
+bool Disk::isReadOnly(std::string_view path) const {
+  return (locateExisting(path).status.mode & kOwnerMayWrite) == 0;
+}
+
+void Disk::setReadOnly(std::string_view path, bool readOnly) {
+  const Place place = locateExisting(path);
+  const unsigned mode = place.status.mode;
+  raise(host_.setMode(place.name, readOnly ? mode & ~kAnyMayWrite : mode | kOwnerMayWrite));
+}
+
+std::string Disk::nameOnDisk(std::string_view path) const {
+  const Place place = locate(path);
+  return place.exists() ? place.name.substr(place.name.find_last_of('/') + 1) : std::string{};
+}
+
+std::vector<std::string> Disk::matching(std::string_view pattern) const {
+  Path path = parse(pattern);
+  if (path.parts.empty()) return {};
+  const std::string wanted = path.parts.back();
+  path.parts.pop_back();
+  const Place folder = locate(path);
+  std::vector<std::string> names;
+  if (folder.status.kind != HostStatus::Kind::folder) return names;
+  raise(host_.list(folder.name, names));
+  std::erase_if(names, [&](const std::string& name) {
+    HostStatus status;
+    return !matchesWildcards(name, wanted) ||
+           host_.status(joined(folder.name, name), status) != 0 ||
+           status.kind != HostStatus::Kind::file;
+  });
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+void Disk::makeFolder(std::string_view path) {
+  const Place place = locate(path);
+  if (place.exists()) throw FileError(ErrorNumber::pathFileAccess);
+  if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound);
+  raise(host_.makeFolder(place.name));
+}
+
+void Disk::makeFolders(std::string_view path) {
+  const Path whole = parse(path);
+  Path part{whole.drive, {}};
+  for (const std::string& name : whole.parts) {
+    part.parts.push_back(name);
+    const Place place = locate(part);
+    if (!place.exists()) raise(host_.makeFolder(place.name));
+  }
+  if (locate(whole).status.kind != HostStatus::Kind::folder) {
+    throw FileError(ErrorNumber::pathFileAccess);
+  }
+}
+
+void Disk::remove(std::string_view path) {
+  const Place place = locateFile(path);
+  if ((place.status.mode & kOwnerMayWrite) == 0) throw FileError(ErrorNumber::pathFileAccess);
+  raise(host_.remove(place.name));
+}
+
+std::string Disk::followLinks(std::string name) const {
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::string target;
+    if (host_.readLink(name, target) != 0) return name;
+    name = target.starts_with('/') ? target : joined(folderOf(name), target);
+  }
+  throw FileError(ErrorNumber::pathFileAccess);
+}
+
+std::unique_ptr<HostFile> Disk::open(const std::string& name, HostOpenMode mode) const {
+  std::unique_ptr<HostFile> file;
+  raise(host_.open(name, mode, file));
+  return file;
+}
+
+void Disk::syncFile(const std::string& name) const {
+  raise(open(name, HostOpenMode::read)->sync());
+}
+
+void Disk::syncFolderOf(const std::string& name) const {
+  const int error = host_.syncFolder(folderOf(name));
+  // Some file systems cannot; then the entry is as safe as they make it.
+  if (error != EINVAL && error != ENOTSUP && error != EACCES) raise(error);
+}
+
+void Disk::keepIdentity(const std::string& name, const HostStatus& status) const {
+  // Only the superuser may give a file away; then the owner is the one who saves.
+  static_cast<void>(host_.setOwner(name, status.owner, status.group));
+  static_cast<void>(host_.setMode(name, status.mode));
+}
+
+void Disk::adoptIdentity(std::string_view file, std::string_view model) {
+  ignoringErrors([&] {
+    HostStatus status = locateFile(model).status;
+    status.mode |= kOwnerMayWrite;
+    keepIdentity(locateFile(file).name, status);
+  });
+}
+
+/// Copies a file into the folder of `target`, under a name of its own, and has it on the medium.
+std::string Disk::copyBeside(const std::string& source, const std::string& target) const {
+  const std::unique_ptr<HostFile> in = open(source, HostOpenMode::read);
+  std::unique_ptr<HostFile> out;
+  std::string name;
+  int error = EEXIST;
+  for (int attempt = 0; error == EEXIST; ++attempt) {
+    name = target + ".norvik-" + std::to_string(attempt);
+    error = host_.open(name, HostOpenMode::createNew, out);
+  }
+  raise(error);
+  std::vector<char> buffer(kBlockSize);
+  std::size_t got = 0;
+  do {
+    error = in->read(buffer.data(), buffer.size(), got);
+    if (error == 0) error = out->write({buffer.data(), got});
+  } while (error == 0 && got > 0);
+  if (error == 0) error = out->sync();
+  if (error != 0) {
+    static_cast<void>(host_.remove(name));
+    raise(error);
+  }
+  HostStatus status;
+  if (host_.status(source, status) == 0) keepIdentity(name, status);
+  return name;
+}
+
+void Disk::move(const std::string& from, const std::string& to, bool over) const {
+  const auto step = [&](const std::string& source) {
+    return over ? host_.renameOver(source, to) : host_.renameNew(source, to);
+  };
+  int error = step(from);
+  if (error == EXDEV) {
+    const std::string copy = copyBeside(from, to);
+    error = step(copy);
+    if (error != 0) static_cast<void>(host_.remove(copy));
+    raise(error);
+    syncFolderOf(to);
+    raise(host_.remove(from));
+    return;
+  }
+  raise(error);
+  syncFolderOf(to);
+}
+
+void Disk::rename(std::string_view from, std::string_view to) {
+  const Place source = locateExisting(from);
+  const Place target = locate(to);
+  if (!target.inFolder) throw FileError(ErrorNumber::pathNotFound);
+  if (target.exists()) throw FileError(ErrorNumber::fileAlreadyExists);
+  if (source.status.kind == HostStatus::Kind::file) syncFile(source.name);
+  move(followLinks(source.name), followLinks(target.name), false);
+}
+
+void Disk::replace(std::string_view scratch, std::string_view target) {
+  const Place old = locateWritable(target);
+  if (!old.exists()) return rename(scratch, target);
+  const Place made = locateFile(scratch);
+  const std::string name = followLinks(old.name);
+  if (followLinks(made.name) == name) return;
+  syncFile(made.name);
+  keepIdentity(made.name, old.status);
+  move(made.name, name, true);
+}
+
+std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {
+  return open(locateFile(path).name, HostOpenMode::read);
+}
+
+std::unique_ptr<HostFile> Disk::openForWriting(std::string_view path) {
+  return open(locateWritable(path).name, HostOpenMode::write);
+}
+
+std::unique_ptr<HostFile> Disk::openForAppending(std::string_view path) {
+  return open(locateWritable(path).name, HostOpenMode::append);
+}
+
+std::unique_ptr<HostFile> Disk::openForUpdating(std::string_view path) {
+  return open(locateWritable(path).name, HostOpenMode::update);
+}
+
+std::string Disk::hostPath(std::string_view path) const { return locate(path).name; }
+
+std::optional<std::string> Disk::systemPath(std::string_view hostPath) const {
+  const std::pair<const char, std::string>* closest = nullptr;
+  for (const auto& drive : drives_) {
+    const std::string& folder = drive.second;
+    const bool within = hostPath == folder || folder == "/" || hostPath.starts_with(folder + "/");
+    if (within && (closest == nullptr || folder.size() > closest->second.size())) closest = &drive;
+  }
+  if (closest == nullptr) return std::nullopt;
+  std::string_view rest = hostPath;
+  rest.remove_prefix(closest->second == "/" ? 0 : closest->second.size());
+  while (rest.starts_with('/')) rest.remove_prefix(1);
+  return std::string{closest->first} + ":\\" + replaced(rest, '/', '\\');
+}
+
+}  // namespace norvik::text

@@ -1,0 +1,75 @@
+#pragma once
+// The two reads of figure text over one position: whole lines and fields.
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "text/disk.h"
+#include "text/line_filter.h"
+
+namespace norvik::text {
+
+/// Reads a text file forward. A line ends at CR LF, LF or CR and may be of any length; bytes are
+/// handed out as they are. Memory is one block, or as much as the longest line.
+///
+///     LineReader in(disk, path);
+///     while (!in.atEnd()) use(in.line());
+///
+/// The constructor throws what Disk::openForReading throws. Every read at the end of the file throws
+/// FileError inputPastEnd (62). A returned text is good until the next call.
+class LineReader {
+ public:
+  LineReader(const Disk& disk, std::string_view path);
+  /// Reads from a file that is open already, from its present position.
+  explicit LineReader(std::unique_ptr<HostFile> file);
+
+  bool atEnd();
+
+  /// The next line without its ending, blanks and tabs intact. Behind a field read that stopped at a
+  /// comma it is the rest of that line.
+  std::string_view line();
+
+  /// The next field: leading blanks and tabs are skipped, the field ends in front of a comma or a line
+  /// end, which is passed over. A field that begins with a double quote runs to the closing quote (or
+  /// to the end of the file), line ends included; the quotes are not part of it, and what follows the
+  /// closing quote is skipped if it is blank up to a comma or line end, else it begins the next field.
+  /// A blank line is an empty field.
+  std::string_view field();
+
+  /// Bytes from the start of the file to the next read.
+  std::uint64_t position() const { return filePosition_ + begin_; }
+
+  /// Whether the next read starts a line.
+  bool atLineStart() const { return atLineStart_; }
+
+  /// Passes over the lines that hold none of the filter's tokens, and returns how many they were. The
+  /// next read is at a line that the filter accepts, or at the end of the file. When the next read does
+  /// not start a line nothing is passed over.
+  std::uint64_t skipLines(const LineFilter& filter);
+
+  /// Passes over the same lines, without counting them, and hands them to `sink`: whole lines with
+  /// their endings, but for one that the file ends in the middle of.
+  using Sink = std::function<void(std::string_view lines)>;
+  void handOnLines(const LineFilter& filter, const Sink& sink);
+
+ private:
+  std::string_view unread() const { return {buffer_.data() + begin_, end_ - begin_}; }
+  bool refill();
+  std::size_t findLineEnd();
+  void passLineEnd();
+  void skipBlanks();
+  std::size_t wholeLines() const;
+
+  std::unique_ptr<HostFile> file_;
+  std::vector<char> buffer_;
+  std::size_t begin_ = 0;  ///< of the unread bytes in the buffer
+  std::size_t end_ = 0;
+  std::uint64_t filePosition_ = 0;  ///< of the buffer's first byte
+  bool fileEnded_ = false;
+  bool atLineStart_ = true;
+};
+
+}  // namespace norvik::text

@@ -1,0 +1,175 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+
+#include "text/host.h"
+
+namespace norvik::text {
+
+namespace {
+
+constexpr mode_t kNewFileMode = 0666;    // the user's mask takes from it
+constexpr mode_t kNewFolderMode = 0777;  // the same
+constexpr unsigned kPermissionBits = 07777;
+
+int errorOf(int result) { return result < 0 ? errno : 0; }
+
+class PosixFile final : public HostFile {
+ public:
+  explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
+  PosixFile(const PosixFile&) = delete;
+  PosixFile& operator=(const PosixFile&) = delete;
+  ~PosixFile() override { ::close(descriptor_); }
+
+  int read(char* into, std::size_t size, std::size_t& got) override {
+    got = 0;
+    ssize_t count = 0;
+    do {
+      count = ::read(descriptor_, into, size);
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) return errno;
+    got = static_cast<std::size_t>(count);
+    return 0;
+  }
+
+  int write(std::string_view bytes) override {
+    while (!bytes.empty()) {
+      const ssize_t count = ::write(descriptor_, bytes.data(), bytes.size());
+      if (count < 0 && errno == EINTR) continue;
+      if (count < 0) return errno;
+      bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return 0;
+  }
+
+  int seek(std::uint64_t offset) override {
+    return ::lseek(descriptor_, static_cast<off_t>(offset), SEEK_SET) < 0 ? errno : 0;
+  }
+
+  int size(std::uint64_t& bytes) override {
+    struct stat status {};
+    if (::fstat(descriptor_, &status) < 0) return errno;
+    bytes = static_cast<std::uint64_t>(status.st_size);
+    return 0;
+  }
+
+  int sync() override { return errorOf(::fsync(descriptor_)); }
+
+ private:
+  int descriptor_;
+};
+
+int openFlags(HostOpenMode mode) {
+  switch (mode) {
+    case HostOpenMode::read:
+      return O_RDONLY;
+    case HostOpenMode::write:
+      return O_WRONLY | O_CREAT | O_TRUNC;
+    case HostOpenMode::append:
+      return O_WRONLY | O_CREAT | O_APPEND;
+    case HostOpenMode::update:
+      return O_RDWR | O_CREAT;
+    case HostOpenMode::createNew:
+      return O_WRONLY | O_CREAT | O_EXCL;
+  }
+  return O_RDONLY;
+}
+
+class PosixHost final : public HostOps {
+ public:
+  int open(const std::string& name, HostOpenMode mode, std::unique_ptr<HostFile>& file) override {
+    // Not to wait for the other end of a pipe: O_NONBLOCK means nothing to a file.
+    const int descriptor =
+        ::open(name.c_str(), openFlags(mode) | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
+    if (descriptor < 0) return errno;
+    file = std::make_unique<PosixFile>(descriptor);
+    return 0;
+  }
+
+  int status(const std::string& name, HostStatus& status) override {
+    struct stat found {};
+    status = {};
+    if (::stat(name.c_str(), &found) < 0) {
+      return errno == ENOENT || errno == ENOTDIR ? 0 : errno;
+    }
+    status.kind = S_ISREG(found.st_mode)   ? HostStatus::Kind::file
+                  : S_ISDIR(found.st_mode) ? HostStatus::Kind::folder
+                                           : HostStatus::Kind::other;
+    status.size = static_cast<std::uint64_t>(found.st_size);
+    status.mode = found.st_mode & kPermissionBits;
+    status.owner = found.st_uid;
+    status.group = found.st_gid;
+    return 0;
+  }
+
+  int list(const std::string& folder, std::vector<std::string>& names) override {
+    names.clear();
+    DIR* stream = ::opendir(folder.c_str());
+    if (stream == nullptr) return errno;
+    errno = 0;
+    while (const dirent* entry = ::readdir(stream)) {
+      std::string name = static_cast<const char*>(entry->d_name);
+      if (name != "." && name != "..") names.push_back(std::move(name));
+    }
+    const int error = errno;
+    ::closedir(stream);
+    return error;
+  }
+
+  int readLink(const std::string& name, std::string& target) override {
+    std::array<char, PATH_MAX> buffer{};
+    const ssize_t length = ::readlink(name.c_str(), buffer.data(), buffer.size());
+    if (length < 0) return errno;
+    target.assign(buffer.data(), static_cast<std::size_t>(length));
+    return 0;
+  }
+
+  int renameOver(const std::string& from, const std::string& to) override {
+    return errorOf(::rename(from.c_str(), to.c_str()));
+  }
+
+  int renameNew(const std::string& from, const std::string& to) override {
+#ifdef RENAME_NOREPLACE
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return errno;
+#endif
+    // A file system without that call: look first.
+    struct stat found {};
+    if (::lstat(to.c_str(), &found) == 0) return EEXIST;
+    return renameOver(from, to);
+  }
+
+  int remove(const std::string& name) override { return errorOf(::unlink(name.c_str())); }
+
+  int makeFolder(const std::string& name) override {
+    return errorOf(::mkdir(name.c_str(), kNewFolderMode));
+  }
+
+  int setMode(const std::string& name, unsigned mode) override {
+    return errorOf(::chmod(name.c_str(), mode));
+  }
+
+  int setOwner(const std::string& name, unsigned owner, unsigned group) override {
+    return errorOf(::chown(name.c_str(), owner, group));
+  }
+
+  int syncFolder(const std::string& folder) override {
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return errno;
+    const int error = errorOf(::fsync(descriptor));
+    ::close(descriptor);
+    return error;
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<HostOps> makePosixHost() { return std::make_unique<PosixHost>(); }
+
+}  // namespace norvik::text

@@ -1,0 +1,28 @@
+#include "text/rewrite_pass.h"
+
+namespace norvik::text {
+
+namespace {
+
+std::string_view cleared(Disk& disk, std::string_view scratch) {
+  ignoringErrors([&] { disk.remove(scratch); });
+  return scratch;
+}
+
+}  // namespace
+
+RewritePass::RewritePass(Disk& disk, std::string_view figure, std::string_view scratch)
+    : out_(disk, cleared(disk, scratch)), in_(disk, figure) {}
+
+void RewritePass::copyLines(const LineFilter& filter) {
+  in_.handOnLines(filter, [this](std::string_view lines) { out_.lines(lines); });
+}
+
+void RewritePass::copyRest() {
+  if (!in_.atEnd() && !in_.atLineStart()) out_.line(in_.line());
+  copyLines({});
+}
+
+void RewritePass::finish() { out_.close(); }
+
+}  // namespace norvik::text
