@@ -1,10 +1,10 @@
 #include "text/disk.h"
 
 #include <algorithm>
-#include <cerrno>
 
 #include "text/classic_errors.h"
 #include "text/columns.h"
+#include "text/safe_replace.h"
 #include "text/wildcards.h"
 
 namespace norvik::text {
@@ -13,17 +13,10 @@ namespace {
 
 constexpr unsigned kOwnerMayWrite = 0200;
 constexpr unsigned kAnyMayWrite = 0222;
-constexpr int kMostLinks = 40;
 
 char driveLetter(char c) { return raised({&c, 1})[0]; }
 
 bool isSeparator(char c) { return c == '\\' || c == '/'; }
-
-std::string folderOf(const std::string& hostName) {
-  const auto slash = hostName.find_last_of('/');
-  if (slash == std::string::npos) return ".";
-  return slash == 0 ? "/" : hostName.substr(0, slash);
-}
 
 std::string joined(const std::string& folder, std::string_view name) {
   std::string result = folder;
@@ -230,15 +223,6 @@ void Disk::remove(std::string_view path) {
   raise(host_.remove(place.name));
 }
 
-std::string Disk::followLinks(std::string name) const {
-  for (int links = 0; links < kMostLinks; ++links) {
-    std::string target;
-    if (host_.readLink(name, target) != 0) return name;
-    name = target.starts_with('/') ? target : joined(folderOf(name), target);
-  }
-  throw FileError(ErrorNumber::pathFileAccess);
-}
-
 std::unique_ptr<HostFile> Disk::open(const std::string& name, HostOpenMode mode) const {
   std::unique_ptr<HostFile> file;
   raise(host_.open(name, mode, file));
@@ -249,69 +233,12 @@ void Disk::syncFile(const std::string& name) const {
   raise(open(name, HostOpenMode::read)->sync());
 }
 
-void Disk::syncFolderOf(const std::string& name) const {
-  const int error = host_.syncFolder(folderOf(name));
-  // Some file systems cannot; then the entry is as safe as they make it.
-  if (error != EINVAL && error != ENOTSUP && error != EACCES) raise(error);
-}
-
-void Disk::keepIdentity(const std::string& name, const HostStatus& status) const {
-  // Only the superuser may give a file away; then the owner is the one who saves.
-  static_cast<void>(host_.setOwner(name, status.owner, status.group));
-  static_cast<void>(host_.setMode(name, status.mode));
-}
-
 void Disk::adoptIdentity(std::string_view file, std::string_view model) {
   ignoringErrors([&] {
     HostStatus status = locateFile(model).status;
     status.mode |= kOwnerMayWrite;
-    keepIdentity(locateFile(file).name, status);
+    keepIdentity(host_, locateFile(file).name, status);
   });
-}
-
-/// Copies a file into the folder of `target`, under a name of its own, and has it on the medium.
-std::string Disk::copyBeside(const std::string& source, const std::string& target) const {
-  const std::unique_ptr<HostFile> in = open(source, HostOpenMode::read);
-  std::unique_ptr<HostFile> out;
-  std::string name;
-  int error = EEXIST;
-  for (int attempt = 0; error == EEXIST; ++attempt) {
-    name = target + ".norvik-" + std::to_string(attempt);
-    error = host_.open(name, HostOpenMode::createNew, out);
-  }
-  raise(error);
-  std::vector<char> buffer(kBlockSize);
-  std::size_t got = 0;
-  do {
-    error = in->read(buffer.data(), buffer.size(), got);
-    if (error == 0) error = out->write({buffer.data(), got});
-  } while (error == 0 && got > 0);
-  if (error == 0) error = out->sync();
-  if (error != 0) {
-    static_cast<void>(host_.remove(name));
-    raise(error);
-  }
-  HostStatus status;
-  if (host_.status(source, status) == 0) keepIdentity(name, status);
-  return name;
-}
-
-void Disk::move(const std::string& from, const std::string& to, bool over) const {
-  const auto step = [&](const std::string& source) {
-    return over ? host_.renameOver(source, to) : host_.renameNew(source, to);
-  };
-  int error = step(from);
-  if (error == EXDEV) {
-    const std::string copy = copyBeside(from, to);
-    error = step(copy);
-    if (error != 0) static_cast<void>(host_.remove(copy));
-    raise(error);
-    syncFolderOf(to);
-    raise(host_.remove(from));
-    return;
-  }
-  raise(error);
-  syncFolderOf(to);
 }
 
 void Disk::rename(std::string_view from, std::string_view to) {
@@ -320,18 +247,18 @@ void Disk::rename(std::string_view from, std::string_view to) {
   if (!target.inFolder) throw FileError(ErrorNumber::pathNotFound);
   if (target.exists()) throw FileError(ErrorNumber::fileAlreadyExists);
   if (source.status.kind == HostStatus::Kind::file) syncFile(source.name);
-  move(followLinks(source.name), followLinks(target.name), false);
+  moveFile(host_, followLinks(host_, source.name), followLinks(host_, target.name), false);
 }
 
 void Disk::replace(std::string_view scratch, std::string_view target) {
   const Place old = locateWritable(target);
   if (!old.exists()) return rename(scratch, target);
   const Place made = locateFile(scratch);
-  const std::string name = followLinks(old.name);
-  if (followLinks(made.name) == name) return;
+  const std::string name = followLinks(host_, old.name);
+  if (followLinks(host_, made.name) == name) return;
   syncFile(made.name);
-  keepIdentity(made.name, old.status);
-  move(made.name, name, true);
+  keepIdentity(host_, made.name, old.status);
+  moveFile(host_, made.name, name, true);
 }
 
 std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {

@@ -92,13 +92,8 @@ class Disk {
   Place locateExisting(std::string_view path) const;
   Place locateFile(std::string_view path) const;
   Place locateWritable(std::string_view path) const;
-  std::string followLinks(std::string name) const;
   std::unique_ptr<HostFile> open(const std::string& name, HostOpenMode mode) const;
   void syncFile(const std::string& name) const;
-  void syncFolderOf(const std::string& name) const;
-  std::string copyBeside(const std::string& source, const std::string& target) const;
-  void keepIdentity(const std::string& name, const HostStatus& status) const;
-  void move(const std::string& from, const std::string& to, bool over) const;
 
   HostOps& host_;
   std::map<char, std::string> drives_;

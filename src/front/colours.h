@@ -1,0 +1,30 @@
+#pragma once
+// Colours that the tools read back as state, in the byte order blue, green, red.
+
+#include <cstdint>
+
+namespace norvik::front {
+
+using Colour = std::uint32_t;
+
+constexpr Colour colourOf(unsigned red, unsigned green, unsigned blue) {
+  return red | green << 8U | blue << 16U;
+}
+
+constexpr Colour kBlack = 0;
+constexpr Colour kWhite = 0xFFFFFF;
+constexpr Colour kWindowGrey = 0xC0C0C0;
+
+constexpr Colour kPathClean = 0xC00000;  ///< a path label whose box is as the file has it
+constexpr Colour kPathEdited =
+    0x0000FF;  ///< colour 12 of the console palette: the box holds an edit
+
+constexpr Colour kPictureRest = 0xC0E0FF;    ///< a tool picture at rest
+constexpr Colour kPictureActive = 0x008000;  ///< a tool picture that is armed or at work
+
+constexpr Colour kListNormal = 0x400000;
+constexpr Colour kListWarning = 0x0000FF;
+
+constexpr Colour kDestinationShown = 0xFF0000;  ///< on the file name labels, for the manual editor
+
+}  // namespace norvik::front

@@ -1,0 +1,28 @@
+#include "front/common_dialog.h"
+
+#include "text/disk.h"
+
+namespace norvik::front {
+
+std::string_view CommonDialog::fileTitle() const {
+  return text::fileTitle(fileName_);
+}
+
+bool CommonDialog::open(FrontEnd& front, std::string_view folder) {
+  return show(front, FileDialog::Kind::open, "Open", folder);
+}
+
+bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed) {
+  fileName_ = proposed;
+  return show(front, FileDialog::Kind::save, "Save As", folder);
+}
+
+bool CommonDialog::show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
+                        std::string_view folder) {
+  const auto chosen =
+      front.fileDialog({kind, name_, std::string{title}, filter_, std::string{folder}, fileName_});
+  if (chosen) fileName_ = *chosen;
+  return chosen.has_value();
+}
+
+}  // namespace norvik::front

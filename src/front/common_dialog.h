@@ -1,0 +1,36 @@
+#pragma once
+// The file dialogs of a form, which remember their last file name.
+
+#include "front/front_end.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvik::front {
+
+class CommonDialog {
+ public:
+  explicit CommonDialog(std::string_view name) : name_(name) {}
+
+  const std::string& fileName() const { return fileName_; }
+  /// The last name of the path, without its folder.
+  std::string_view fileTitle() const;
+  void setFileName(std::string_view fileName) { fileName_ = fileName; }
+  void setFilter(std::string_view filter) { filter_ = filter; }
+
+  /// Shows the dialog for opening, in a folder, with its last file name. Whether it was accepted;
+  /// after a cancel the file name is what it was.
+  bool open(FrontEnd& front, std::string_view folder);
+  /// Shows it for saving, with a proposed name.
+  bool save(FrontEnd& front, std::string_view folder, std::string_view proposed);
+
+ private:
+  bool show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
+            std::string_view folder);
+
+  std::string name_;
+  std::string fileName_;
+  std::string filter_;
+};
+
+}  // namespace norvik::front

@@ -1,0 +1,116 @@
+#pragma once
+// What the tools ask of whoever sits in front of them: a person at a window, or a script.
+
+#include "front/colours.h"
+#include "text/file_error.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik::front {
+
+class Form;
+
+/// Message box styles: the buttons, to which an icon may be added.
+enum Style : int {
+  kOk = 0,
+  kOkCancel = 1,
+  kYesNoCancel = 3,
+  kYesNo = 4,
+  kCritical = 16,
+  kQuestion = 32,
+  kExclamation = 48,
+  kInformation = 64,
+};
+/// The part of a style that says which buttons a box has.
+constexpr int kButtonMask = 15;
+
+enum class Answer { ok = 1, cancel = 2, yes = 6, no = 7 };
+
+struct FileDialog {
+  enum class Kind { open, save };
+  Kind kind = Kind::open;
+  std::string name;  ///< of the dialog control
+  std::string title;
+  std::string filter;
+  std::string folder;  ///< the initial folder
+  std::string file;    ///< the proposed name
+};
+
+/// The outcome of a fetch over the network. `error` is 0 when the front end does not fetch at all.
+struct Fetched {
+  bool done = false;
+  int error = 0;
+  std::string description;
+};
+
+struct Screen {
+  float width = 0;   ///< in twips
+  float height = 0;  ///< in twips
+};
+
+/// Thrown by a front end whose operator is gone: a script without an answer to a box, a window that
+/// closes while a tool waits. It ends the tool as a run-time error does, without a word; tools
+/// never catch it.
+class ToolStopped {};
+
+/// The operations of a front end. All are called on the one thread that the tools run on, and
+/// return when they are done. Paths are system paths.
+class FrontEnd {
+ public:
+  virtual ~FrontEnd() = default;
+
+  virtual Answer messageBox(std::string_view text, std::string_view title, int style) = 0;
+  /// The chosen path, or nothing on a cancel.
+  virtual std::optional<std::string> fileDialog(const FileDialog& dialog) = 0;
+  virtual std::optional<Colour> colourDialog(Colour initial) = 0;
+  /// Whether the operator wants to print.
+  virtual bool printerDialog() = 0;
+  virtual void print(std::string_view font, const std::vector<std::string>& lines) = 0;
+
+  virtual void setHourglass(Form& form, bool on) = 0;
+  virtual void beep() = 0;
+
+  /// Lets queued events run.
+  virtual void pumpEvents() = 0;
+  /// Waits until the operator has done one thing; for tools that poll.
+  virtual void waitForOperator() = 0;
+
+  /// Shows a loaded form.
+  virtual void show(Form& form) = 0;
+  /// Shows a loaded form and returns when it has been unloaded.
+  virtual void showModal(Form& form) = 0;
+  virtual void unloaded(Form& form) = 0;
+  virtual Screen screen() const = 0;
+
+  /// Draws the closing animation's tile with its corner at a place of the form, in pixels. False
+  /// when there is nothing to draw on; then the animation takes no time.
+  virtual bool drawTile(Form& form, int left, int top) = 0;
+  /// The size of that tile, in pixels.
+  virtual int tileWidth() const = 0;
+  virtual int tileHeight() const = 0;
+
+  /// Opens a document or page with a verb of the system's shell.
+  virtual void openDocument(std::string_view verb, std::string_view target,
+                            std::string_view folder) = 0;
+  /// Starts a command line in a normal window.
+  virtual void run(std::string_view commandLine) = 0;
+  /// Plays a sound and does not wait for its end; a missing file plays nothing.
+  virtual void playSound(std::string_view path) = 0;
+  /// The operating system's own folder.
+  virtual std::string systemFolder() const = 0;
+  /// Fetches what stands at an address into a file.
+  virtual Fetched fetch(std::string_view address, std::string_view path) = 0;
+
+  /// The date and time of the moment, as it is written into notes.
+  virtual std::string now() const = 0;
+
+  /// Tells the operator that a tool was stopped by an error.
+  virtual void runtimeError(const text::FileError& error) = 0;
+  /// Called last of all: the process ends when the running handler has returned.
+  virtual void endProcess() = 0;
+};
+
+}  // namespace norvik::front

@@ -1,0 +1,62 @@
+#pragma once
+// List boxes: ordered strings that are display and data at once.
+
+#include "front/control.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik::front {
+
+enum class Selection { single, multiple };
+
+class ListBox : public Control {
+ public:
+  static constexpr int kNone = -1;
+
+  ListBox(Form& form, std::string_view name, Selection selection = Selection::single);
+
+  int count() const { return static_cast<int>(items_.size()); }
+  const std::vector<std::string>& items() const { return items_; }
+  /// The item at an index from 0; empty beyond the last one and for a negative index.
+  std::string_view item(int index) const;
+
+  void clear();
+  void add(std::string_view item);
+  void remove(int index);
+
+  bool multiple() const { return selection_ == Selection::multiple; }
+  bool selected(int index) const;
+  void setSelected(int index, bool selected);
+  std::vector<int> selection() const;
+  void clearSelection();
+
+  /// The index that was clicked last, or kNone: "the selected index" also when several are
+  /// selected.
+  int index() const { return index_; }
+  /// The item at that index; empty if there is none.
+  std::string_view chosen() const { return item(index_); }
+  /// Selects an item as a click does; in a single-selection list the others lose theirs.
+  void choose(int index);
+
+  bool ticked(int index) const;
+  void setTicked(int index, bool ticked);
+  Event<int> tickChanged;
+
+  /// Whether a mouse press on an item starts a drag; the tool that owns the target says so.
+  bool dragging() const { return dragging_; }
+  void setDragging(bool dragging) { dragging_ = dragging; }
+
+ private:
+  bool holds(int index) const { return index >= 0 && index < count(); }
+
+  Selection selection_;
+  std::vector<std::string> items_;
+  std::vector<bool> selected_;
+  std::vector<bool> ticked_;
+  int index_ = kNone;
+  bool dragging_ = false;
+};
+
+}  // namespace norvik::front

@@ -1,0 +1,32 @@
+#include "front/screen_scale.h"
+
+namespace norvik::front {
+
+void ResizeFormToScreen(Session& session, Form& form) {
+  if (form.state() != WindowState::normal) return;
+  Opening& opening = session.opening;
+  const Screen screen = session.front.screen();
+  const Box old = form.box();
+  opening.ScreenScaleX = screen.width / old.width;
+  opening.ScreenScaleY = screen.height / old.height;
+  const float x = opening.ScreenScaleX;
+  const float y = opening.ScreenScaleY;
+
+  form.setBox({0, 0, old.width * x, old.height * y});
+  form.setFontSize(form.fontSize() * x);
+  for (Control* control : form.controls()) {
+    const bool placed =
+        control->kind() != ControlKind::menuEntry && control->kind() != ControlKind::timer;
+    if (!placed) continue;
+    const Box box = control->box();
+    control->setBox({box.left * x, box.top * y, box.width * x, box.height * y});
+    control->setFontSize(control->fontSize() * x);
+  }
+  form.setState(WindowState::maximised);
+}
+
+float scaledLeft(const Opening& opening, float left) {
+  return opening.ScreenScaleX == 0 ? left : opening.ScreenScaleX * left;
+}
+
+}  // namespace norvik::front

@@ -1,0 +1,15 @@
+#pragma once
+// The form at the size of the screen.
+
+#include "front/session.h"
+
+namespace norvik::front {
+
+/// Multiplies a form in the normal window state, its controls and their fonts to the size of the
+/// screen, keeps the ratios in the main form's ScreenScaleX and ScreenScaleY, and maximises it.
+void ResizeFormToScreen(Session& session, Form& form);
+
+/// A left edge in the main form's own pixels, as it is on the screen.
+float scaledLeft(const Opening& opening, float left);
+
+}  // namespace norvik::front

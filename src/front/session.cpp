@@ -1,0 +1,68 @@
+#include "front/session.h"
+
+#include "text/columns.h"
+
+#include <algorithm>
+#include <new>
+
+namespace norvik::front {
+
+Session::Session(FrontEnd& frontEnd, text::Disk& theDisk, Settings& theSettings,
+                 Opening& theOpening)
+    : front(frontEnd), disk(theDisk), settings(theSettings), opening(theOpening) {
+  addForm(theOpening);
+}
+
+Form* Session::findForm(std::string_view name) const {
+  const auto found = std::find_if(forms_.begin(), forms_.end(), [&](const Form* form) {
+    return text::equalIgnoringCase(form->name(), name);
+  });
+  return found == forms_.end() ? nullptr : *found;
+}
+
+void Session::load(Form& form) {
+  if (form.loaded()) return;
+  form.setLoaded(true);
+  front.show(form);
+}
+
+void Session::unload(Form& form) {
+  if (!form.loaded()) return;
+  form.unloading.raise();
+  form.setLoaded(false);
+  front.unloaded(form);
+  if (&form == &opening) front.endProcess();
+}
+
+void Session::hourglass(bool on) {
+  opening.setPointer(on ? Pointer::hourglass : Pointer::arrow);
+  front.setHourglass(opening, on);
+}
+
+void Session::deliver(const std::function<void()>& handler) {
+  const auto stopped = [this](const text::FileError& error) {
+    hourglass(false);
+    front.runtimeError(error);
+  };
+  try {
+    handler();
+  } catch (const text::FileError& error) {
+    stopped(error);
+  } catch (const std::bad_alloc&) {
+    stopped(text::FileError(text::ErrorNumber::outOfMemory));
+  } catch (const ToolStopped&) {
+    hourglass(false);
+  }
+}
+
+void Session::offerToClearReadOnly(std::string_view path) {
+  if (!disk.isReadOnly(path)) return;
+  const Answer answer = front.messageBox(
+      "This is a read-only file, probably from a CD.  It cannot be edited.  Would you like to "
+      "change "
+      "this attribute so it can be edited by Norvik?",
+      "Alert!", kYesNo);
+  if (answer == Answer::yes) disk.setReadOnly(path, false);
+}
+
+}  // namespace norvik::front

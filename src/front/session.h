@@ -1,0 +1,61 @@
+#pragma once
+// What a tool is handed: everything it may touch.
+
+#include "front/front_end.h"
+#include "front/opening.h"
+#include "front/settings.h"
+#include "text/disk.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace norvik::front {
+
+class Session;
+
+/// Routines that a tool calls by name though they live in a room above it. Each is filled in by the
+/// tool that is it, when that tool is wired.
+struct Routines {
+  /// Fills ListChannels with the channels of the pane's file; takes the path that was opened.
+  std::function<void(std::string_view path)> ViewChannels;
+};
+
+class Session {
+ public:
+  Session(FrontEnd& front, text::Disk& disk, Settings& settings, Opening& opening);
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  FrontEnd& front;
+  text::Disk& disk;
+  Settings& settings;
+  Opening& opening;
+  Routines routines;
+  std::string commandLine;  ///< the program's, as it stands
+
+  /// All forms by name, the main form first.
+  void addForm(Form& form) { forms_.push_back(&form); }
+  const std::vector<Form*>& forms() const { return forms_; }
+  Form* findForm(std::string_view name) const;
+
+  /// Shows a form that is not loaded yet.
+  void load(Form& form);
+  /// Unloads a form as its close box does. The main form's unloading ends the process.
+  void unload(Form& form);
+
+  void hourglass(bool on);
+
+  /// Runs a handler. An error of the file layer ends it here and is shown to the operator.
+  void deliver(const std::function<void()>& handler);
+
+  /// The question of a file's read-only attribute before it is opened; on Yes it is taken away.
+  /// Throws FileError for a missing file.
+  void offerToClearReadOnly(std::string_view path);
+
+ private:
+  std::vector<Form*> forms_;
+};
+
+}  // namespace norvik::front

@@ -1,0 +1,62 @@
+#pragma once
+// Controls that show or take text.
+
+#include "front/control.h"
+
+#include <string>
+#include <string_view>
+
+namespace norvik::front {
+
+/// A control with a caption: labels, and what is labelled itself.
+class CaptionControl : public Control {
+ public:
+  CaptionControl(Form& form, std::string_view name, ControlKind kind, std::string_view caption)
+      : Control(form, name, kind), caption_(caption) {}
+
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption) { set(caption_, caption); }
+
+ private:
+  std::string caption_;
+};
+
+class Label : public CaptionControl {
+ public:
+  Label(Form& form, std::string_view name, std::string_view caption = {})
+      : CaptionControl(form, name, ControlKind::label, caption) {}
+};
+
+class CommandButton : public CaptionControl {
+ public:
+  CommandButton(Form& form, std::string_view name, std::string_view caption)
+      : CaptionControl(form, name, ControlKind::commandButton, caption) {}
+};
+
+/// A box of text, plain or rich, or the text part of a combo box.
+class TextBox : public Control {
+ public:
+  TextBox(Form& form, std::string_view name, ControlKind kind = ControlKind::textBox)
+      : Control(form, name, kind) {}
+
+  const std::string& text() const { return text_; }
+  /// Sets the text as a tool does; `changed` is for what the operator types.
+  void setText(std::string_view text) { set(text_, text); }
+
+  std::size_t caret() const { return caret_; }
+  std::size_t selectionLength() const { return selectionLength_; }
+  void setCaret(std::size_t position, std::size_t length) {
+    set(caret_, position);
+    set(selectionLength_, length);
+  }
+
+  Event<> changed;
+  Event<> caretMoved;
+
+ private:
+  std::string text_;
+  std::size_t caret_ = 0;
+  std::size_t selectionLength_ = 0;
+};
+
+}  // namespace norvik::front
