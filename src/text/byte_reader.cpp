@@ -1,9 +1,9 @@
 #include "text/byte_reader.h"
 
+#include "text/classic_errors.h"
+
 #include <algorithm>
 #include <cstring>
-
-#include "text/classic_errors.h"
 
 namespace norvik::text {
 

@@ -1,12 +1,12 @@
 #pragma once
 // Reads a file as bytes, whatever they are.
 
+#include "text/disk.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "text/disk.h"
 
 namespace norvik::text {
 

@@ -8,8 +8,12 @@ namespace {
 
 constexpr char kCaseGap = 'a' - 'A';
 
-char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + kCaseGap) : c; }
-char raise(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - kCaseGap) : c; }
+char lower(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c + kCaseGap) : c;
+}
+char raise(char c) {
+  return c >= 'a' && c <= 'z' ? static_cast<char>(c - kCaseGap) : c;
+}
 
 }  // namespace
 
@@ -33,7 +37,9 @@ bool holds(std::string_view text, std::string_view token) {
   return text.find(token) != std::string_view::npos;
 }
 
-bool begins(std::string_view text, std::string_view token) { return text.starts_with(token); }
+bool begins(std::string_view text, std::string_view token) {
+  return text.starts_with(token);
+}
 
 std::string_view before(std::string_view text, std::string_view token) {
   return text.substr(0, text.find(token));
@@ -71,7 +77,9 @@ bool equalIgnoringCase(std::string_view left, std::string_view right) {
                     [](char a, char b) { return lower(a) == lower(b); });
 }
 
-std::string_view extension(std::string_view path) { return rightmost(path, 3); }
+std::string_view extension(std::string_view path) {
+  return rightmost(path, 3);
+}
 
 std::string replaced(std::string_view text, char wanted, char replacement) {
   std::string result{text};

@@ -1,11 +1,11 @@
 #include "text/disk.h"
 
-#include <algorithm>
-
 #include "text/classic_errors.h"
 #include "text/columns.h"
 #include "text/safe_replace.h"
 #include "text/wildcards.h"
+
+#include <algorithm>
 
 namespace norvik::text {
 
@@ -14,9 +14,13 @@ namespace {
 constexpr unsigned kOwnerMayWrite = 0200;
 constexpr unsigned kAnyMayWrite = 0222;
 
-char driveLetter(char c) { return raised({&c, 1})[0]; }
+char driveLetter(char c) {
+  return raised({&c, 1})[0];
+}
 
-bool isSeparator(char c) { return c == '\\' || c == '/'; }
+bool isSeparator(char c) {
+  return c == '\\' || c == '/';
+}
 
 std::string joined(const std::string& folder, std::string_view name) {
   std::string result = folder;
@@ -57,7 +61,9 @@ void Disk::mount(char drive, std::string hostFolder) {
   if (currentFolder_.empty()) currentFolder_ = std::string{driveLetter(drive)} + ":\\";
 }
 
-bool Disk::hasDrive(char drive) const { return drives_.contains(driveLetter(drive)); }
+bool Disk::hasDrive(char drive) const {
+  return drives_.contains(driveLetter(drive));
+}
 
 Disk::Path Disk::parse(std::string_view path) const {
   if (path.empty() || path.find('\0') != std::string_view::npos) {
@@ -81,7 +87,9 @@ Disk::Path Disk::parse(std::string_view path) const {
   return result;
 }
 
-Disk::Place Disk::locate(std::string_view path) const { return locate(parse(path)); }
+Disk::Place Disk::locate(std::string_view path) const {
+  return locate(parse(path));
+}
 
 Disk::Place Disk::locate(const Path& path) const {
   const auto drive = drives_.find(path.drive);
@@ -161,7 +169,9 @@ bool Disk::folderExists(std::string_view path) const {
   }
 }
 
-std::uint64_t Disk::size(std::string_view path) const { return locateFile(path).status.size; }
+std::uint64_t Disk::size(std::string_view path) const {
+  return locateFile(path).status.size;
+}
 
 bool Disk::isReadOnly(std::string_view path) const {
   return (locateExisting(path).status.mode & kOwnerMayWrite) == 0;
@@ -277,7 +287,9 @@ std::unique_ptr<HostFile> Disk::openForUpdating(std::string_view path) {
   return open(locateWritable(path).name, HostOpenMode::update);
 }
 
-std::string Disk::hostPath(std::string_view path) const { return locate(path).name; }
+std::string Disk::hostPath(std::string_view path) const {
+  return locate(path).name;
+}
 
 std::optional<std::string> Disk::systemPath(std::string_view hostPath) const {
   const std::pair<const char, std::string>* closest = nullptr;

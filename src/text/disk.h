@@ -1,6 +1,10 @@
 #pragma once
-// The one door to the host's files. Everything above speaks in system paths, as the figure files' own
-// system has them: "C:\Poser\Runtime", drive letters, backslashes, names without regard to case.
+// The one door to the host's files. Everything above speaks in system paths, as the figure files'
+// own system has them: "C:\Poser\Runtime", drive letters, backslashes, names without regard to
+// case.
+
+#include "text/file_error.h"
+#include "text/host.h"
 
 #include <map>
 #include <memory>
@@ -9,16 +13,13 @@
 #include <string_view>
 #include <vector>
 
-#include "text/file_error.h"
-#include "text/host.h"
-
 namespace norvik::text {
 
 /// The drives, the current folder and the classic file operations with their classic errors:
 /// a missing file is fileNotFound (53), a missing folder on the way to it, an unknown drive or a
-/// network path pathNotFound (76); a folder in place of a file, an empty path, a read-only file that
-/// is to be written or deleted and anything else that the host denies pathFileAccess (75); a full
-/// medium diskFull (61).
+/// network path pathNotFound (76); a folder in place of a file, an empty path, a read-only file
+/// that is to be written or deleted and anything else that the host denies pathFileAccess (75); a
+/// full medium diskFull (61).
 class Disk {
  public:
   explicit Disk(HostOps& host);
@@ -27,8 +28,8 @@ class Disk {
   void mount(char drive, std::string hostFolder);
   bool hasDrive(char drive) const;
 
-  /// The current folder, as the path that changed it was given; doubled backslashes are dropped, and
-  /// one at its end, unless it is the drive's root.
+  /// The current folder, as the path that changed it was given; doubled backslashes are dropped,
+  /// and one at its end, unless it is the drive's root.
   const std::string& currentFolder() const { return currentFolder_; }
   void changeFolder(std::string_view path);
 
@@ -54,9 +55,10 @@ class Disk {
   /// file's bytes are on the medium before it gets its new name.
   void rename(std::string_view from, std::string_view to);
 
-  /// Deletes `target`, if it exists, and renames `scratch` to it, so that at every instant the old or
-  /// the new file stands complete under the name. Links are followed; the mode and, where allowed, the
-  /// owner of the old file are kept. On an error the old file stands as it was, and so does `scratch`.
+  /// Deletes `target`, if it exists, and renames `scratch` to it, so that at every instant the old
+  /// or the new file stands complete under the name. Links are followed; the mode and, where
+  /// allowed, the owner of the old file are kept. On an error the old file stands as it was, and so
+  /// does `scratch`.
   void replace(std::string_view scratch, std::string_view target);
 
   /// Gives `file` the mode and owner of `model`, but for the read-only attribute. Never fails.
@@ -70,8 +72,8 @@ class Disk {
 
   /// The host's name for a system path, whether it exists or not.
   std::string hostPath(std::string_view path) const;
-  /// The system path of an absolute host path, on the drive whose folder holds it most closely; none
-  /// if no drive does.
+  /// The system path of an absolute host path, on the drive whose folder holds it most closely;
+  /// none if no drive does.
   std::optional<std::string> systemPath(std::string_view hostPath) const;
 
  private:

@@ -1,6 +1,6 @@
 #pragma once
-// The few operations that the disk asks of the host system. Everything that touches a host file goes
-// through here, so that a test can stand between and let any one of them fail.
+// The few operations that the disk asks of the host system. Everything that touches a host file
+// goes through here, so that a test can stand between and let any one of them fail.
 //
 // Names are host paths. Operations return 0 or the host's error number (errno); they never throw.
 

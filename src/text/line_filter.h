@@ -13,7 +13,7 @@ namespace norvik::text {
 class LineFilter {
  public:
   struct Token {
-    std::string_view text;      ///< must outlive the filter; not empty
+    std::string_view text;     ///< must outlive the filter; not empty
     bool atLineStart = false;  ///< only where a line begins with it
   };
 
@@ -33,8 +33,12 @@ class LineFilter {
 };
 
 /// A token that counts wherever it stands in a line.
-inline LineFilter::Token anywhere(std::string_view text) { return {text, false}; }
+inline LineFilter::Token anywhere(std::string_view text) {
+  return {text, false};
+}
 /// A token that counts at the first column alone.
-inline LineFilter::Token atStart(std::string_view text) { return {text, true}; }
+inline LineFilter::Token atStart(std::string_view text) {
+  return {text, true};
+}
 
 }  // namespace norvik::text

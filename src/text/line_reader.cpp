@@ -1,17 +1,21 @@
 #include "text/line_reader.h"
 
-#include <algorithm>
-#include <cstring>
-
 #include "text/classic_errors.h"
 #include "text/line_scan.h"
+
+#include <algorithm>
+#include <cstring>
 
 namespace norvik::text {
 
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
-bool isLineEnd(char c) { return c == '\r' || c == '\n'; }
+bool isBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+bool isLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
 
 }  // namespace
 
@@ -21,7 +25,8 @@ LineReader::LineReader(const Disk& disk, std::string_view path)
 LineReader::LineReader(std::unique_ptr<HostFile> file)
     : file_(std::move(file)), buffer_(kBlockSize) {}
 
-/// Reads more bytes behind the unread ones, which move to the buffer's front. False at the file's end.
+/// Reads more bytes behind the unread ones, which move to the buffer's front. False at the file's
+/// end.
 bool LineReader::refill() {
   if (fileEnded_) return false;
   if (begin_ > 0) {
@@ -38,9 +43,12 @@ bool LineReader::refill() {
   return got > 0;
 }
 
-bool LineReader::atEnd() { return begin_ == end_ && !refill(); }
+bool LineReader::atEnd() {
+  return begin_ == end_ && !refill();
+}
 
-/// The offset of the next line end among the unread bytes, or their number when the last line has none.
+/// The offset of the next line end among the unread bytes, or their number when the last line has
+/// none.
 std::size_t LineReader::findLineEnd() {
   std::size_t searched = 0;
   for (;;) {

@@ -1,14 +1,14 @@
 #pragma once
 // The two reads of figure text over one position: whole lines and fields.
 
+#include "text/disk.h"
+#include "text/line_filter.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string_view>
 #include <vector>
-
-#include "text/disk.h"
-#include "text/line_filter.h"
 
 namespace norvik::text {
 
@@ -18,8 +18,8 @@ namespace norvik::text {
 ///     LineReader in(disk, path);
 ///     while (!in.atEnd()) use(in.line());
 ///
-/// The constructor throws what Disk::openForReading throws. Every read at the end of the file throws
-/// FileError inputPastEnd (62). A returned text is good until the next call.
+/// The constructor throws what Disk::openForReading throws. Every read at the end of the file
+/// throws FileError inputPastEnd (62). A returned text is good until the next call.
 class LineReader {
  public:
   LineReader(const Disk& disk, std::string_view path);
@@ -28,15 +28,15 @@ class LineReader {
 
   bool atEnd();
 
-  /// The next line without its ending, blanks and tabs intact. Behind a field read that stopped at a
-  /// comma it is the rest of that line.
+  /// The next line without its ending, blanks and tabs intact. Behind a field read that stopped at
+  /// a comma it is the rest of that line.
   std::string_view line();
 
-  /// The next field: leading blanks and tabs are skipped, the field ends in front of a comma or a line
-  /// end, which is passed over. A field that begins with a double quote runs to the closing quote (or
-  /// to the end of the file), line ends included; the quotes are not part of it, and what follows the
-  /// closing quote is skipped if it is blank up to a comma or line end, else it begins the next field.
-  /// A blank line is an empty field.
+  /// The next field: leading blanks and tabs are skipped, the field ends in front of a comma or a
+  /// line end, which is passed over. A field that begins with a double quote runs to the closing
+  /// quote (or to the end of the file), line ends included; the quotes are not part of it, and what
+  /// follows the closing quote is skipped if it is blank up to a comma or line end, else it begins
+  /// the next field. A blank line is an empty field.
   std::string_view field();
 
   /// Bytes from the start of the file to the next read.
@@ -45,9 +45,9 @@ class LineReader {
   /// Whether the next read starts a line.
   bool atLineStart() const { return atLineStart_; }
 
-  /// Passes over the lines that hold none of the filter's tokens, and returns how many they were. The
-  /// next read is at a line that the filter accepts, or at the end of the file. When the next read does
-  /// not start a line nothing is passed over.
+  /// Passes over the lines that hold none of the filter's tokens, and returns how many they were.
+  /// The next read is at a line that the filter accepts, or at the end of the file. When the next
+  /// read does not start a line nothing is passed over.
   std::uint64_t skipLines(const LineFilter& filter);
 
   /// Passes over the same lines, without counting them, and hands them to `sink`: whole lines with

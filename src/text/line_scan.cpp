@@ -13,8 +13,11 @@ constexpr std::size_t kWord = sizeof(std::uint64_t);
 constexpr std::uint64_t kOnes = 0x0101010101010101U;
 constexpr std::uint64_t kHighBits = 0x8080808080808080U;
 
-/// A mark in the high bit of each byte that is zero; bytes behind the first zero may be marked wrongly.
-std::uint64_t zeroBytes(std::uint64_t word) { return (word - kOnes) & ~word & kHighBits; }
+/// A mark in the high bit of each byte that is zero; bytes behind the first zero may be marked
+/// wrongly.
+std::uint64_t zeroBytes(std::uint64_t word) {
+  return (word - kOnes) & ~word & kHighBits;
+}
 
 std::uint64_t lineEndBytes(std::uint64_t word) {
   return zeroBytes(word ^ (kOnes * '\r')) | zeroBytes(word ^ (kOnes * '\n'));

@@ -1,17 +1,18 @@
 #pragma once
 // The writer of figure text.
 
+#include "text/disk.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "text/disk.h"
-
 namespace norvik::text {
 
 /// Writes a text file forward, each line ended by CR LF, through a block of memory. A failed write
-/// throws FileError (diskFull on a full medium); what was written so far stands in the file. An object
-/// that dies without close(), on the way out of an error, writes what it still holds, if it can.
+/// throws FileError (diskFull on a full medium); what was written so far stands in the file. An
+/// object that dies without close(), on the way out of an error, writes what it still holds, if it
+/// can.
 class LineWriter {
  public:
   enum class Mode { create, append };

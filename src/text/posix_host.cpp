@@ -1,14 +1,13 @@
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "text/host.h"
 
 #include <array>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
-
-#include "text/host.h"
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace norvik::text {
 
@@ -18,7 +17,9 @@ constexpr mode_t kNewFileMode = 0666;    // the user's mask takes from it
 constexpr mode_t kNewFolderMode = 0777;  // the same
 constexpr unsigned kPermissionBits = 07777;
 
-int errorOf(int result) { return result < 0 ? errno : 0; }
+int errorOf(int result) {
+  return result < 0 ? errno : 0;
+}
 
 class PosixFile final : public HostFile {
  public:
@@ -145,7 +146,9 @@ class PosixHost final : public HostOps {
     return renameOver(from, to);
   }
 
-  int remove(const std::string& name) override { return errorOf(::unlink(name.c_str())); }
+  int remove(const std::string& name) override {
+    return errorOf(::unlink(name.c_str()));
+  }
 
   int makeFolder(const std::string& name) override {
     return errorOf(::mkdir(name.c_str(), kNewFolderMode));
@@ -170,6 +173,8 @@ class PosixHost final : public HostOps {
 
 }  // namespace
 
-std::unique_ptr<HostOps> makePosixHost() { return std::make_unique<PosixHost>(); }
+std::unique_ptr<HostOps> makePosixHost() {
+  return std::make_unique<PosixHost>();
+}
 
 }  // namespace norvik::text

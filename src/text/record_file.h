@@ -1,17 +1,17 @@
 #pragma once
 // Files of fixed-length records, addressed by number.
 
+#include "text/disk.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
 
-#include "text/disk.h"
-
 namespace norvik::text {
 
-/// A random-access file of records of one length, numbered from 1. A text shorter than the record is
-/// filled up with blanks on the right, a longer one is cut. The file is made if it is missing.
+/// A random-access file of records of one length, numbered from 1. A text shorter than the record
+/// is filled up with blanks on the right, a longer one is cut. The file is made if it is missing.
 class RecordFile {
  public:
   RecordFile(Disk& disk, std::string_view path, std::size_t recordLength);
@@ -23,8 +23,8 @@ class RecordFile {
   /// Writes a record. Records between the file's end and a number beyond it are zero bytes.
   void put(std::uint64_t number, std::string_view text);
 
-  /// A record with its filling, good until the next call; inputPastEnd (62) if there is none of that
-  /// number.
+  /// A record with its filling, good until the next call; inputPastEnd (62) if there is none of
+  /// that number.
   std::string_view get(std::uint64_t number);
 
   /// The whole records in the file.

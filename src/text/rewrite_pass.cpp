@@ -23,6 +23,8 @@ void RewritePass::copyRest() {
   copyLines({});
 }
 
-void RewritePass::finish() { out_.close(); }
+void RewritePass::finish() {
+  out_.close();
+}
 
 }  // namespace norvik::text

@@ -1,18 +1,18 @@
 #pragma once
-// The pass that every tool makes which changes a file: the figure is read forward, and kept or changed
-// lines go to a scratch file.
-
-#include <string>
-#include <string_view>
+// The pass that every tool makes which changes a file: the figure is read forward, and kept or
+// changed lines go to a scratch file.
 
 #include "text/line_reader.h"
 #include "text/line_writer.h"
 
+#include <string>
+#include <string_view>
+
 namespace norvik::text {
 
-/// A reader of the figure and a writer of the scratch file, side by side. The scratch file is deleted
-/// first, if it can be. When the pass ends early on an error, the lines printed so far stand in the
-/// scratch file, and the figure is as it was.
+/// A reader of the figure and a writer of the scratch file, side by side. The scratch file is
+/// deleted first, if it can be. When the pass ends early on an error, the lines printed so far
+/// stand in the scratch file, and the figure is as it was.
 ///
 ///     RewritePass pass(disk, figure, scratch);
 ///     while (!pass.in().atEnd()) pass.out().line(changed(pass.in().line()));

@@ -1,10 +1,10 @@
 #include "text/safe_replace.h"
 
+#include "text/classic_errors.h"
+
 #include <cerrno>
 #include <functional>
 #include <vector>
-
-#include "text/classic_errors.h"
 
 namespace norvik::text {
 
@@ -60,8 +60,7 @@ std::string copyBeside(HostOps& host, const std::string& source, const std::stri
   raise(host.status(source, model));
   std::unique_ptr<HostFile> in;
   raise(host.open(source, HostOpenMode::read, in));
-  std::string name =
-      createBeside(host, target, [&](HostFile& out) { return copyInto(out, *in); });
+  std::string name = createBeside(host, target, [&](HostFile& out) { return copyInto(out, *in); });
   keepIdentity(host, name, model);
   return name;
 }

@@ -4,11 +4,11 @@
 //
 // Names are host paths. All functions throw FileError; the old file then stands as it was.
 
+#include "text/host.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "text/host.h"
 
 namespace norvik::text {
 
@@ -19,8 +19,8 @@ std::string followLinks(HostOps& host, std::string name);
 void keepIdentity(HostOps& host, const std::string& name, const HostStatus& model);
 
 /// Moves a file to a name, in one step on the same file system, by way of a copy in the target's
-/// folder on another. `over` says whether the target may exist; if it may not and does, the error is
-/// fileAlreadyExists (58).
+/// folder on another. `over` says whether the target may exist; if it may not and does, the error
+/// is fileAlreadyExists (58).
 void moveFile(HostOps& host, const std::string& from, const std::string& to, bool over);
 
 /// Replaces the content of a file, or makes it.

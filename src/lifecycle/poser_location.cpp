@@ -1,0 +1,21 @@
+#include "lifecycle/poser_location.h"
+
+#include "text/columns.h"
+
+namespace norvik::lifecycle {
+
+void askForPoser(front::Session& session) {
+  session.opening.CommonDialogFindPoser.open(session.front, session.disk.currentFolder());
+}
+
+void storePoserLocation(front::Session& session) {
+  constexpr std::size_t kProgramName = 9;  // Poser.exe
+  const std::string& program = session.opening.CommonDialogFindPoser.fileName();
+  session.settings.set("Startup", "PLoc", text::withoutLast(program, kProgramName));
+}
+
+void readPoserLocation(front::Session& session) {
+  session.opening.PoserLocation = session.settings.get("Startup", "PLoc", "0");
+}
+
+}  // namespace norvik::lifecycle

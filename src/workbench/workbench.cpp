@@ -1,0 +1,49 @@
+#include "workbench/workbench.h"
+
+#include "figure/bracket_checker.h"
+#include "figure/map_lister.h"
+#include "figure/material_lister.h"
+#include "figure/open_file.h"
+#include "figure/path_boxes.h"
+#include "figure/save.h"
+#include "figure/source_open.h"
+#include "front/help_boxes.h"
+#include "lifecycle/closing_animation.h"
+#include "lifecycle/exit.h"
+#include "lifecycle/file_menu.h"
+#include "lifecycle/help_menu.h"
+#include "lifecycle/recent_click.h"
+#include "lifecycle/start.h"
+
+namespace norvik::workbench {
+
+Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& settings,
+                     std::string programFolder, std::string commandLine)
+    : session_(front, disk, settings, opening_) {
+  opening_.ProgramFolder = std::move(programFolder);
+  session_.commandLine = std::move(commandLine);
+  wireTools();
+}
+
+void Workbench::wireTools() {
+  // In the order of the menus and panes; entries that are not here do nothing.
+  front::wireHelpBoxes(session_);
+  figure::wireOpen(session_);
+  figure::wireSave(session_);
+  figure::wireSourceOpen(session_);
+  figure::wireBracketChecker(session_);
+  figure::wireMaterialList(session_);
+  figure::wireTextureList(session_);
+  figure::wirePathBoxes(session_);
+  lifecycle::wireRecentFiles(session_);
+  lifecycle::wireFileMenu(session_);
+  lifecycle::wireHelpMenu(session_);
+  lifecycle::wireClosingAnimation(session_);
+  lifecycle::wireExit(session_);
+}
+
+void Workbench::start() {
+  session_.deliver([this] { lifecycle::startProgram(session_); });
+}
+
+}  // namespace norvik::workbench

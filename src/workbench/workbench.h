@@ -1,0 +1,31 @@
+#pragma once
+// The assembly of the program: the forms, and every tool on its trigger.
+
+#include "front/session.h"
+
+#include <string>
+
+namespace norvik::workbench {
+
+/// Owns the forms and the session of a running program. A front end makes one, delivers the start
+/// and then what the operator does.
+class Workbench {
+ public:
+  /// `programFolder` is a system path without a backslash at its end; `commandLine` the program's
+  /// own command line, as it stands.
+  Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& settings,
+            std::string programFolder, std::string commandLine);
+
+  front::Session& session() { return session_; }
+
+  /// Runs the start of the program.
+  void start();
+
+ private:
+  void wireTools();
+
+  front::Opening opening_;
+  front::Session session_;
+};
+
+}  // namespace norvik::workbench
