@@ -114,6 +114,7 @@ void FindMapLocs(front::Session& session, const std::string& path) {
 void wireTextureList(front::Session& session) {
   front::Opening& opening = session.opening;
   opening.TextMainTex.moved.add([&opening](front::Mouse) { showTextureList(opening); });
+  opening.ListAllTexMaps.clicked.add([&opening] { opening.ListAllTexMaps.hide(); });
   opening.ListAllTexMaps.released.add([&opening](front::Mouse) { opening.ListAllTexMaps.hide(); });
   // The timer goes on running when it has hidden the list.
   opening.TimerListAllTexMaps.expired.add([&opening] { opening.ListAllTexMaps.hide(); });

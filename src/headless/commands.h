@@ -1,0 +1,56 @@
+#pragma once
+// The commands of the script language.
+
+#include "headless/operator_acts.h"
+#include "headless/script.h"
+#include "headless/script_front_end.h"
+#include "workbench/workbench.h"
+
+#include <functional>
+#include <map>
+#include <string>
+
+namespace norvik::headless {
+
+/// Carries out script lines. A line that cannot be carried out is refused: an event says why, and
+/// the outcome remembers it.
+class Commands {
+ public:
+  Commands(workbench::Workbench& workbench, ScriptFrontEnd& front, Transcript& transcript,
+           Outcome& outcome);
+
+  void run(ScriptLine line);
+
+ private:
+  using Command = std::function<void(ScriptLine&)>;
+
+  void addAnswers();
+  void addProgram();
+  void addMouse();
+  void addLists();
+  void addInput();
+  void addDisk();
+  void addOutput();
+
+  // A control by name. Operators reach only what is on view and enabled, in front of any modal
+  // form.
+  front::Control& find(const std::string& name);
+  front::Control& reach(const std::string& name);
+  template <typename Kind>
+  Kind& reachAs(const std::string& name, const char* kind);
+  front::Form& loadedForm(const std::string& name);
+  int itemIndex(front::ListBox& list, const std::string& text);
+  front::ListBox& selectItem(ScriptLine& line);
+  void fail(const ScriptLine& line, const std::string& why);
+  void checkProperty(ScriptLine& line);
+
+  workbench::Workbench& workbench_;
+  front::Session& session_;
+  ScriptFrontEnd& front_;
+  Transcript& transcript_;
+  Outcome& outcome_;
+  OperatorActs acts_;
+  std::map<std::string, Command, std::less<>> commands_;
+};
+
+}  // namespace norvik::headless

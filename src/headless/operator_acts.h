@@ -1,0 +1,52 @@
+#pragma once
+// What an operator does at a control, as the events that the control delivers.
+
+#include "front/session.h"
+
+#include <string>
+#include <vector>
+
+namespace norvik::headless {
+
+/// Delivers the operator's acts, each event as a handler of its own.
+class OperatorActs {
+ public:
+  explicit OperatorActs(front::Session& session) : session_(session) {}
+
+  /// A left click. A menu entry is chosen: the menus above it open first, from the top.
+  void click(front::Control& control);
+  void rightClick(front::Control& control);
+  void doubleClick(front::Control& control);
+
+  /// Selects the items at these indexes, which must exist, and delivers the click of the last one;
+  /// without an index only the selection is cleared.
+  void select(front::ListBox& list, const std::vector<int>& indexes);
+  void tick(front::ListBox& list, int index, bool on);
+
+  /// Presses the mouse on a control and lets go over another. A drop arrives if the press started a
+  /// drag.
+  void drop(front::Control& from, front::Control& onto);
+  void dropFile(const std::string& path, front::Control& onto);
+
+  void type(front::TextBox& box, const std::string& text);
+  void key(front::Control& control, const std::string& key);
+  void key(front::Form& form, const std::string& key);
+  void setSlider(front::Slider& slider, int value);
+  void placeCaret(front::TextBox& box, std::size_t position, std::size_t length);
+
+  void press(front::Control& control, front::Mouse mouse);
+  void move(front::Control& control, front::Mouse mouse);
+  void release(front::Control& control, front::Mouse mouse);
+  void expire(front::Timer& timer);
+
+ private:
+  template <typename... Args, typename... Values>
+  void deliver(const front::Event<Args...>& event, Values&&... values) {
+    session_.deliver([&] { event.raise(values...); });
+  }
+  void choose(front::MenuEntry& entry);
+
+  front::Session& session_;
+};
+
+}  // namespace norvik::headless

@@ -1,0 +1,114 @@
+#include "headless/options.h"
+
+#include <cctype>
+#include <charconv>
+#include <filesystem>
+#include <functional>
+#include <map>
+
+namespace norvik::headless {
+
+const char* const kHelp =
+    "norvik-run - runs the tools of the Norvik workbench from a script\n"
+    "\n"
+    "Usage: norvik-run [options] [SCRIPT]      SCRIPT is a file, or - or nothing for standard "
+    "input\n"
+    "\n"
+    "  --drive L=FOLDER   the host folder that stands for drive L:; may be repeated (Z=/)\n"
+    "  --program PATH     the program folder, as a system path such as C:\\Norvik; made if "
+    "missing\n"
+    "  --cwd PATH         the current folder at the start, as a system path\n"
+    "  --settings FILE    the settings store, an INI file; made if missing (kept in memory)\n"
+    "  --screen WxH       the screen in pixels (1024x768)\n"
+    "  --clock \"YYYY-MM-DD HH:MM:SS\"\n"
+    "                     a fixed time for everything that writes a date\n"
+    "  --open PATH        the command line of the program, as it stands\n"
+    "  --help, --version\n"
+    "\n"
+    "Every question, box and act comes out as one JSON object a line. Exit code: 0 the script ran "
+    "to\n"
+    "its end; 1 an expectation failed; 2 a bad option, a bad command or a refused one; 3 a box or\n"
+    "dialog had no answer; 4 the runner itself failed.\n";
+
+namespace {
+
+std::pair<char, std::string> driveOf(const std::string& value) {
+  const bool formed = value.size() > 2 && value[1] == '=' &&
+                      std::isalpha(static_cast<unsigned char>(value[0])) != 0;
+  if (!formed) throw BadOption{"--drive takes L=FOLDER, not '" + value + "'"};
+  std::error_code error;
+  const auto folder = std::filesystem::absolute(value.substr(2), error).lexically_normal();
+  if (error || !std::filesystem::is_directory(folder, error)) {
+    throw BadOption{"--drive: no folder '" + value.substr(2) + "'"};
+  }
+  return {value[0], folder.string()};
+}
+
+/// Reads a number off the front of a text.
+float takeNumber(std::string_view& text) {
+  int number = 0;
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+  text.remove_prefix(static_cast<std::size_t>(result.ptr - text.data()));
+  return result.ec == std::errc{} ? static_cast<float>(number) : 0;
+}
+
+void setScreen(ScriptFrontEnd::Options& options, const std::string& value) {
+  std::string_view rest = value;
+  options.screenWidth = takeNumber(rest);
+  const bool cross = rest.starts_with('x');
+  if (cross) rest.remove_prefix(1);
+  options.screenHeight = takeNumber(rest);
+  if (!cross || !rest.empty() || options.screenWidth <= 0 || options.screenHeight <= 0) {
+    throw BadOption{"--screen takes WxH, not '" + value + "'"};
+  }
+}
+
+std::string clockOf(const std::string& value) {
+  const std::string_view form = "0000-00-00 00:00:00";
+  bool formed = value.size() == form.size();
+  for (std::size_t i = 0; formed && i < form.size(); ++i) {
+    formed = form[i] == '0' ? std::isdigit(static_cast<unsigned char>(value[i])) != 0
+                            : value[i] == form[i];
+  }
+  if (!formed) throw BadOption{"--clock takes \"YYYY-MM-DD HH:MM:SS\", not '" + value + "'"};
+  return value;
+}
+
+}  // namespace
+
+Options parseOptions(const std::vector<std::string>& arguments) {
+  Options options;
+  bool scriptGiven = false;
+  const std::map<std::string, std::function<void(const std::string&)>, std::less<>> valued{
+      {"--drive", [&](const std::string& value) { options.drives.push_back(driveOf(value)); }},
+      {"--program", [&](const std::string& value) { options.program = value; }},
+      {"--cwd", [&](const std::string& value) { options.currentFolder = value; }},
+      {"--settings", [&](const std::string& value) { options.settings = value; }},
+      {"--screen", [&](const std::string& value) { setScreen(options.frontEnd, value); }},
+      {"--clock", [&](const std::string& value) { options.frontEnd.clock = clockOf(value); }},
+      {"--open", [&](const std::string& value) { options.open = value; }}};
+
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    const auto equals = argument.starts_with("--") ? argument.find('=') : std::string::npos;
+    const auto option = valued.find(argument.substr(0, equals));
+    if (option != valued.end()) {
+      if (equals == std::string::npos && i + 1 == arguments.size()) {
+        throw BadOption{argument + " needs a value"};
+      }
+      option->second(equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1));
+    } else if (argument == "--help") {
+      options.help = true;
+    } else if (argument == "--version") {
+      options.version = true;
+    } else if (argument.starts_with("--") || scriptGiven) {
+      throw BadOption{"no option '" + argument + "'"};
+    } else {
+      options.script = argument;
+      scriptGiven = true;
+    }
+  }
+  return options;
+}
+
+}  // namespace norvik::headless

@@ -1,0 +1,102 @@
+#include "headless/runner.h"
+
+#include "headless/commands.h"
+#include "text/columns.h"
+#include "workbench/workbench.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace norvik::headless {
+
+namespace {
+
+/// Runs a step of the set-up; what it cannot do is the option's fault.
+void orBadOption(const std::string& option, const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const text::FileError& error) {
+    throw BadOption{option + ": " + std::string{error.text()}};
+  }
+}
+
+void mountDrives(text::Disk& disk, const Options& options) {
+  disk.mount('Z', "/");
+  for (const auto& [letter, folder] : options.drives) disk.mount(letter, folder);
+}
+
+void enterCurrentFolder(text::Disk& disk, const Options& options) {
+  std::string folder = options.currentFolder;
+  if (folder.empty()) {
+    const auto host = disk.systemPath(std::filesystem::current_path().string());
+    if (!host) throw BadOption{"no drive holds the current folder: give --cwd"};
+    folder = *host;
+  }
+  orBadOption("--cwd " + folder, [&] { disk.changeFolder(folder); });
+}
+
+std::string userDataFolder() {
+  if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data == '/') {
+    return std::string{data} + "/norvik";
+  }
+  const char* home = std::getenv("HOME");
+  return std::string{home == nullptr ? "/tmp" : home} + "/.local/share/norvik";
+}
+
+std::string programFolder(text::Disk& disk, const Options& options) {
+  std::string folder = options.program;
+  if (folder.empty() && disk.hasDrive('C')) folder = "C:\\Norvik";
+  if (folder.empty()) {
+    const auto data = disk.systemPath(userDataFolder());
+    if (!data) throw BadOption{"no drive holds the user's data folder: give --program"};
+    folder = *data;
+  }
+  while (folder.ends_with('\\')) folder.pop_back();
+  orBadOption("--program " + folder, [&] { disk.makeFolders(folder); });
+  return folder;
+}
+
+front::Settings settingsOf(text::HostOps& host, const Options& options) {
+  if (options.settings.empty()) return {};
+  const auto file = std::filesystem::absolute(options.settings);
+  std::error_code ignored;
+  std::filesystem::create_directories(file.parent_path(), ignored);
+  front::Settings settings;
+  orBadOption("--settings " + options.settings,
+              [&] { settings = front::Settings(host, file.string()); });
+  return settings;
+}
+
+}  // namespace
+
+ExitCode runScript(const Options& options, text::HostOps& host, std::istream& input,
+                   std::ostream& out) {
+  text::Disk disk(host);
+  mountDrives(disk, options);
+  enterCurrentFolder(disk, options);
+  const std::string program = programFolder(disk, options);
+  front::Settings settings = settingsOf(host, options);
+
+  Transcript transcript(out);
+  Outcome outcome;
+  ScriptFrontEnd frontEnd(transcript, outcome, options.frontEnd);
+  workbench::Workbench workbench(frontEnd, disk, settings, program, options.open);
+  Commands commands(workbench, frontEnd, transcript, outcome);
+
+  Script script(input);
+  const auto step = [&] {
+    auto line = script.next();
+    if (!line) return false;
+    commands.run(std::move(*line));
+    return true;
+  };
+  frontEnd.setStep(step);
+  front::Session& session = workbench.session();
+  frontEnd.setUnload(
+      [&session](front::Form& form) { session.deliver([&] { session.unload(form); }); });
+  while (!frontEnd.ended() && step()) {
+  }
+  return outcome.exitCode();
+}
+
+}  // namespace norvik::headless
