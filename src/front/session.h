@@ -19,7 +19,7 @@ class Session;
 /// tool that is it, when that tool is wired.
 struct Routines {
   /// Fills ListChannels with the channels of the pane's file; takes the path that was opened.
-  std::function<void(std::string_view path)> ViewChannels;
+  std::function<void(const std::string& path)> ViewChannels;
 };
 
 class Session {

@@ -36,6 +36,7 @@ LineFilter::LineFilter(std::initializer_list<Token> tokens) {
 
 std::size_t LineFilter::find(std::string_view block, const Search& search) {
   const std::string_view token = search.token.text;
+  if (token.empty()) return 0;
   const char rarest = token[search.rarest];
   std::size_t offset = search.rarest;
   while (offset < block.size()) {
@@ -54,6 +55,7 @@ std::size_t LineFilter::find(std::string_view block) const {
   std::size_t first = block.size();
   for (const Search& search : searches_) {
     // A later token need only be looked for in front of the best hit, with room for its own length.
+    if (first == 0) break;
     const auto reach = first == block.size() ? first : first + search.token.text.size() - 1;
     const auto hit = find(block.substr(0, reach), search);
     if (hit < first) first = hit;

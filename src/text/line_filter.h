@@ -13,7 +13,7 @@ namespace norvik::text {
 class LineFilter {
  public:
   struct Token {
-    std::string_view text;     ///< must outlive the filter; not empty
+    std::string_view text;     ///< must outlive the filter; an empty one is in every line
     bool atLineStart = false;  ///< only where a line begins with it
   };
 

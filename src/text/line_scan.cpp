@@ -80,4 +80,18 @@ bool hasConventionalEndings(std::string_view text) {
   return wrong == 0;
 }
 
+bool hasEmptyLines(std::string_view text) {
+  if (text.empty()) return false;
+  if (text.front() == '\n' || text.front() == '\r') return true;
+  unsigned found = 0;
+  const char* bytes = text.data();
+  for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+    // Two line ends in a row, unless they are one CR LF.
+    const bool lfAnyEnd = (bytes[i] == '\n') & ((bytes[i + 1] == '\n') | (bytes[i + 1] == '\r'));
+    const bool crCr = (bytes[i] == '\r') & (bytes[i + 1] == '\r');
+    found |= static_cast<unsigned>(lfAnyEnd | crCr);
+  }
+  return found != 0;
+}
+
 }  // namespace norvik::text

@@ -15,4 +15,7 @@ std::uint64_t countLines(std::string_view text);
 /// Whether every line ending in the text is CR LF.
 bool hasConventionalEndings(std::string_view text);
 
+/// Whether any of the lines in the text is empty; the text begins at the start of a line.
+bool hasEmptyLines(std::string_view text);
+
 }  // namespace norvik::text

@@ -9,6 +9,19 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
+/// Takes the first line off a text, its ending included, and returns it without that.
+std::string_view takeLine(std::string_view& lines) {
+  const std::size_t end = findLineEnd(lines, 0);
+  const auto line = lines.substr(0, end);
+  const bool pair = lines.substr(end).starts_with(kLineEnd);
+  lines.remove_prefix(std::min(end + (pair ? 2 : 1), lines.size()));
+  return line;
+}
+
+bool areWrittenAsTheyAre(std::string_view lines) {
+  return lines.ends_with('\n') && hasConventionalEndings(lines);
+}
+
 }  // namespace
 
 LineWriter::LineWriter(Disk& disk, std::string_view path, Mode mode)
@@ -49,12 +62,15 @@ void LineWriter::line(std::string_view first, std::string_view second) {
 }
 
 void LineWriter::lines(std::string_view lines) {
-  if (lines.ends_with('\n') && hasConventionalEndings(lines)) return bytes(lines);
+  if (areWrittenAsTheyAre(lines)) return bytes(lines);
+  while (!lines.empty()) line(takeLine(lines));
+}
+
+void LineWriter::linesThatHoldText(std::string_view lines) {
+  if (areWrittenAsTheyAre(lines) && !hasEmptyLines(lines)) return bytes(lines);
   while (!lines.empty()) {
-    const std::size_t end = findLineEnd(lines, 0);
-    line(lines.substr(0, end));
-    const bool pair = lines.substr(end).starts_with(kLineEnd);
-    lines.remove_prefix(std::min(end + (pair ? 2 : 1), lines.size()));
+    const auto text = takeLine(lines);
+    if (!text.empty()) line(text);
   }
 }
 

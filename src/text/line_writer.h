@@ -34,6 +34,9 @@ class LineWriter {
   /// last line without an ending gets one.
   void lines(std::string_view lines);
 
+  /// The same, less the empty lines.
+  void linesThatHoldText(std::string_view lines);
+
   /// Writes what is still held and closes the file.
   void close();
 

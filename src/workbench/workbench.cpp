@@ -1,5 +1,7 @@
 #include "workbench/workbench.h"
 
+#include "channels/channel_views.h"
+#include "channels/copy_morph.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
 #include "figure/material_lister.h"
@@ -35,6 +37,8 @@ void Workbench::wireTools() {
   figure::wireMaterialList(session_);
   figure::wireTextureList(session_);
   figure::wirePathBoxes(session_);
+  channels::wireChannelViews(session_);
+  channels::wireCopyMorph(session_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);
