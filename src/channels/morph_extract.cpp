@@ -42,16 +42,13 @@ void findLink(front::Session& session, CopyRun& run, const std::string& selected
   const std::string& source = session.opening.LabelChannelFileNameForEditor.caption();
   text::LineReader in(session.disk, source);
   run.searchLine = morphLine(run.link.slaved);
-  bool isMorph = untilEndOfFile([&] { passTo(in, run.searchLine); });
-  if (!isMorph) {
+  if (!untilEndOfFile([&] { passTo(in, run.searchLine); })) {
     in = text::LineReader(session.disk, source);
     run.searchLine = "\t\tvalueParm " + selectedText;
     passTo(in, run.searchLine);
   }
   passToHeaderEnd(in);
-  // A morph's own name may hold the keyword; then its links are passed over as well.
-  isMorph = !text::holds(run.searchLine, "valueParm ");
-  if (!isMorph) return;
+  if (text::holds(run.searchLine, "valueParm ")) return;
   readBlock(in, run);
   run.linkMode = true;
   session.front.messageBox("Note that your source ERC morph uses " +
