@@ -2,6 +2,7 @@
 
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
+#include "channels/trash.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
 #include "figure/material_lister.h"
@@ -39,6 +40,7 @@ void Workbench::wireTools() {
   figure::wirePathBoxes(session_);
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
+  channels::wireTrash(session_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);
