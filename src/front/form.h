@@ -42,6 +42,10 @@ class Form {
   Pointer pointer() const { return pointer_; }
   void setPointer(Pointer pointer) { pointer_ = pointer; }
 
+  /// The control that takes the keys; none at first.
+  Control* focus() const { return focus_; }
+  void setFocus(Control& control) { focus_ = &control; }
+
   /// The controls that changed since the last call, each once, in the order of their first change.
   std::vector<Control*> takeChanges();
 
@@ -57,6 +61,7 @@ class Form {
   std::string caption_;
   std::vector<Control*> controls_;
   std::vector<Control*> changed_;
+  Control* focus_ = nullptr;
   bool loaded_ = false;
   Box box_;
   float fontSize_;
