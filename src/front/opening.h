@@ -64,8 +64,8 @@ class Opening : public Form, public OpeningMenus {
   // The source pane.
 
   Label LabelOpenSourceTitle{*this, "LabelOpenSourceTitle", "Open Source"};
-  /// A picture that is used as a button.
-  Label LabelOpenSource{*this, "LabelOpenSource"};
+  /// A picture button, whatever its name says.
+  PictureButton LabelOpenSource{*this, "LabelOpenSource"};
   /// The source's path, shortened; the destination's while no source is open.
   Label LabelChannelFileName{*this, "LabelChannelFileName"};
   /// Channels, or the source's body parts; item 0 says which. Names are read back by column.
