@@ -99,8 +99,11 @@ void moveFile(HostOps& host, const std::string& from, const std::string& to, boo
   }
   syncFolderOf(host, to);
   const int notRemoved = host.remove(from);
-  // A file that was replaced cannot come back: the source stays behind. A mere copy can go again.
-  if (notRemoved == 0 || over) return;
+  if (notRemoved == 0 || over) return;  // a file that was replaced cannot come back
+  // A mere copy can go again, but only while the source is sure to stand.
+  HostStatus source;
+  const bool stands = host.status(from, source) == 0 && source.kind == HostStatus::Kind::file;
+  if (!stands) return;
   static_cast<void>(host.remove(to));
   raise(notRemoved);
 }
