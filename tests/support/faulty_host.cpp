@@ -19,8 +19,7 @@ class FaultyHost::File final : public HostFile {
 
   int read(char* into, std::size_t size, std::size_t& got) override {
     got = 0;
-    const int error = host_.count();
-    return error != 0 ? error : real_->read(into, size, got);
+    return host_.perform([&] { return real_->read(into, size, got); });
   }
 
   int write(std::string_view bytes) override {
@@ -31,7 +30,10 @@ class FaultyHost::File final : public HostFile {
       host_.met_ = true;
       error = ENOSPC;
     }
-    if (error == 0) return real_->write(bytes);
+    if (error == 0 || host_.fault_ == Fault::unheard) {
+      const int written = real_->write(bytes);
+      return error != 0 ? error : written;
+    }
     const bool half =
         !metBefore && (host_.fault_ == Fault::fullDisk || host_.fault_ == Fault::killed);
     if (half) static_cast<void>(real_->write(bytes.substr(0, bytes.size() / 2)));
@@ -39,19 +41,16 @@ class FaultyHost::File final : public HostFile {
   }
 
   int seek(std::uint64_t offset) override {
-    const int error = host_.count();
-    return error != 0 ? error : real_->seek(offset);
+    return host_.perform([&] { return real_->seek(offset); });
   }
-
   int size(std::uint64_t& bytes) override {
-    const int error = host_.count();
-    return error != 0 ? error : real_->size(bytes);
+    return host_.perform([&] { return real_->size(bytes); });
   }
-
   int sync() override {
-    const int error = host_.count();
-    if (error == 0) host_.synced(id_);
-    return error;
+    return host_.perform([this] {
+      host_.synced(id_);
+      return 0;
+    });
   }
 
  private:
@@ -59,6 +58,15 @@ class FaultyHost::File final : public HostFile {
   FileId id_;
   std::unique_ptr<HostFile> real_;
 };
+
+/// Counts an operation and carries it out, if it is to be.
+template <typename Operation>
+int FaultyHost::perform(Operation&& operation) {
+  const int error = count();
+  if (error != 0 && fault_ != Fault::unheard) return error;
+  const int result = operation();
+  return error != 0 ? error : result;
+}
 
 FaultyHost::~FaultyHost() {
   forgetFiles();
@@ -83,6 +91,7 @@ int FaultyHost::count() {
     case Fault::fullDisk:
       return 0;
     case Fault::error:
+    case Fault::unheard:
       if (!now) return 0;
       met_ = true;
       return error_;
@@ -140,67 +149,50 @@ bool FaultyHost::acrossFolders(const std::string& from, const std::string& to) c
 }
 
 int FaultyHost::open(const std::string& name, HostOpenMode mode, std::unique_ptr<HostFile>& file) {
-  if (const int error = count(); error != 0) return error;
-  struct stat before {};
-  const bool existed = ::stat(name.c_str(), &before) == 0;
-  std::unique_ptr<HostFile> real;
-  if (const int error = real_.open(name, mode, real); error != 0) return error;
-  const FileId id = idOf(name);
-  if (mode != HostOpenMode::read) {
-    const bool kept = existed && mode != HostOpenMode::write;
-    watch(name, id, kept ? static_cast<std::uint64_t>(before.st_size) : 0);
-  }
-  file = std::make_unique<File>(*this, id, std::move(real));
-  return 0;
+  return perform([&] {
+    struct stat before {};
+    const bool existed = ::stat(name.c_str(), &before) == 0;
+    std::unique_ptr<HostFile> real;
+    if (const int error = real_.open(name, mode, real); error != 0) return error;
+    const FileId id = idOf(name);
+    if (mode != HostOpenMode::read) {
+      const bool kept = existed && mode != HostOpenMode::write;
+      watch(name, id, kept ? static_cast<std::uint64_t>(before.st_size) : 0);
+    }
+    file = std::make_unique<File>(*this, id, std::move(real));
+    return 0;
+  });
 }
 
 int FaultyHost::status(const std::string& name, HostStatus& status) {
-  const int error = count();
-  return error != 0 ? error : real_.status(name, status);
+  return perform([&] { return real_.status(name, status); });
 }
-
 int FaultyHost::list(const std::string& folder, std::vector<std::string>& names) {
-  const int error = count();
-  return error != 0 ? error : real_.list(folder, names);
+  return perform([&] { return real_.list(folder, names); });
 }
-
 int FaultyHost::readLink(const std::string& name, std::string& target) {
-  const int error = count();
-  return error != 0 ? error : real_.readLink(name, target);
+  return perform([&] { return real_.readLink(name, target); });
 }
-
 int FaultyHost::renameOver(const std::string& from, const std::string& to) {
-  if (const int error = count(); error != 0) return error;
-  return acrossFolders(from, to) ? EXDEV : real_.renameOver(from, to);
+  return perform([&] { return acrossFolders(from, to) ? EXDEV : real_.renameOver(from, to); });
 }
-
 int FaultyHost::renameNew(const std::string& from, const std::string& to) {
-  if (const int error = count(); error != 0) return error;
-  return acrossFolders(from, to) ? EXDEV : real_.renameNew(from, to);
+  return perform([&] { return acrossFolders(from, to) ? EXDEV : real_.renameNew(from, to); });
 }
-
 int FaultyHost::remove(const std::string& name) {
-  const int error = count();
-  return error != 0 ? error : real_.remove(name);
+  return perform([&] { return real_.remove(name); });
 }
-
 int FaultyHost::makeFolder(const std::string& name) {
-  const int error = count();
-  return error != 0 ? error : real_.makeFolder(name);
+  return perform([&] { return real_.makeFolder(name); });
 }
-
 int FaultyHost::setMode(const std::string& name, unsigned mode) {
-  const int error = count();
-  return error != 0 ? error : real_.setMode(name, mode);
+  return perform([&] { return real_.setMode(name, mode); });
 }
-
 int FaultyHost::setOwner(const std::string& name, unsigned owner, unsigned group) {
-  const int error = count();
-  return error != 0 ? error : real_.setOwner(name, owner, group);
+  return perform([&] { return real_.setOwner(name, owner, group); });
 }
-
 int FaultyHost::syncFolder(const std::string&) {
-  return count();
+  return perform([] { return 0; });
 }
 
 }  // namespace norvik::tests

@@ -16,6 +16,7 @@ namespace norvik::tests {
 enum class Fault {
   none,
   error,      ///< the N-th operation fails, all others succeed
+  unheard,    ///< the N-th operation is carried out and yet reported as failed
   fullDisk,   ///< of the N-th write half arrives; it and all later writes fail with ENOSPC
   killed,     ///< at the N-th operation the process dies; what was written stays
   powerLost,  ///< the same, and bytes that were written but not synced are gone
@@ -75,6 +76,8 @@ class FaultyHost final : public text::HostOps {
   class File;
 
   int count();
+  template <typename Operation>
+  int perform(Operation&& operation);
   void losePower();
   void watch(const std::string& name, const FileId& file, std::uint64_t length);
   void synced(const FileId& file);

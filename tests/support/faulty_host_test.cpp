@@ -37,6 +37,14 @@ TEST_F(FaultyHostTest, FailsOneOperation) {
   EXPECT_EQ(host_.operations(), 3U);
 }
 
+TEST_F(FaultyHostTest, CarriesOutAnOperationUnheard) {
+  host_.setFault(Fault::unheard, 2, EIO);
+  const auto file = open("f", HostOpenMode::write);
+  EXPECT_EQ(file->write("1234"), EIO);
+  EXPECT_EQ(file->write("5678"), 0);
+  EXPECT_EQ(folder_.read("f"), "12345678");
+}
+
 TEST_F(FaultyHostTest, FillsTheDisk) {
   host_.setFault(Fault::fullDisk, 2);
   const auto file = open("f", HostOpenMode::write);

@@ -206,6 +206,17 @@ TEST_F(DiskMovesTest, MovesAcrossFileSystems) {
   EXPECT_EQ(elsewhere->files(), Names{});
 }
 
+TEST_F(DiskMovesTest, AFolderStaysOnItsFileSystem) {
+  folder.write("a/inner/f", "x");
+  folder.makeFolder("b");
+  FaultyHost separate(*host);
+  separate.separateFolders();
+  Disk overSeparate(separate);
+  overSeparate.mount('C', folder.path());
+  EXPECT_EQ(errorNumber([&] { overSeparate.rename("C:\\a\\inner", "C:\\b\\inner"); }), 75);
+  EXPECT_EQ(folder.files(), Names{"a/inner/f"});
+}
+
 /// Runs a step with each operation failing in turn, in each of the ways, and looks at what is left.
 /// `check` is told whether the step ended without an error.
 void failEverywhere(bool acrossFileSystems,
@@ -217,9 +228,9 @@ void failEverywhere(bool acrossFileSystems,
     int error;
   };
   const auto host = makePosixHost();
-  for (const Way way :
-       {Way{Fault::error, EIO}, Way{Fault::error, ENOSPC}, Way{Fault::error, EACCES},
-        Way{Fault::fullDisk, 0}, Way{Fault::killed, 0}, Way{Fault::powerLost, 0}}) {
+  for (const Way way : {Way{Fault::error, EIO}, Way{Fault::error, ENOSPC},
+                        Way{Fault::error, EACCES}, Way{Fault::unheard, EIO},
+                        Way{Fault::fullDisk, 0}, Way{Fault::killed, 0}, Way{Fault::powerLost, 0}}) {
     bool met = true;
     for (std::uint64_t n = 1; met; ++n) {
       SCOPED_TRACE("fault " + std::to_string(static_cast<int>(way.fault)) + ", error " +
@@ -233,10 +244,10 @@ void failEverywhere(bool acrossFileSystems,
       faulty.setFault(way.fault, n, way.error);
       const bool done = errorNumber([&] { step(disk); }) == 0;
       met = faulty.faultMet();
-      // The dead do not report.
-      const bool died = met && (way.fault == Fault::killed || way.fault == Fault::powerLost);
-      if (!died) check(folder, done);
+      // Only who knows what happened can report.
+      if (!met || way.fault == Fault::error || way.fault == Fault::fullDisk) check(folder, done);
       const auto files = folder.files();
+      EXPECT_FALSE(files.empty());
       for (const std::string& name : files) {
         const std::string text = folder.read(name);
         const bool whole = text == "old text" || text == "new text";
