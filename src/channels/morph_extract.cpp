@@ -126,8 +126,8 @@ void chooseSearch(CopyRun& run, const front::ListBox& list, int index) {
 }
 
 bool extractMorph(front::Session& session, CopyRun& run, const std::string& selectedText) {
-  text::LineWriter out(session.disk, session.opening.inProgramFolder(kExtractFile),
-                       text::LineWriter::Mode::append);
+  // Emptied, should its delete have failed: an older extract must not get into the figure.
+  text::LineWriter out(session.disk, session.opening.inProgramFolder(kExtractFile));
   if (run.selectedClass == CopyRun::kLinkOfMorph) findLink(session, run, selectedText);
   text::LineReader in(session.disk, session.opening.LabelChannelFileNameForEditor.caption());
   if (!findEntry(session, run, in)) return false;
