@@ -138,7 +138,9 @@ bool listPart(front::Session& session, const std::string& name) {
   if (name.ends_with(':')) return false;
   text::LineReader in(session.disk, opening.LabelChannelFileNameForEditor.caption());
   const std::string actorLine = "actor" + name;
-  if (!passLine(in, actorLine) || !passLine(in, actorLine)) return false;
+  for (int occurrence = 0; occurrence < 2; ++occurrence) {
+    if (!passLine(in, actorLine)) return false;
+  }
   untilEndOfFile([&] { PartScan(opening.ListChannels, in).run(); });
   return true;
 }

@@ -30,6 +30,7 @@ class OptionButton : public CaptionControl {
   bool value_ = false;
 };
 
+/// A choice of its own; a click turns it over.
 class CheckBox : public CaptionControl {
  public:
   CheckBox(Form& form, std::string_view name, std::string_view caption = {})
@@ -55,7 +56,7 @@ class Slider : public Control {
   /// Sets the value, kept within the limits.
   void setValue(int value);
 
-  Event<> changed;
+  Event<> changed;  ///< the operator has moved it
 
  private:
   int least_;

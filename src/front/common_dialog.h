@@ -8,6 +8,8 @@
 
 namespace norvik::front {
 
+/// A file dialog of the main form. Between uses it keeps its last file name, which tools rely on:
+/// one that does not ask for a cancel takes that name again.
 class CommonDialog {
  public:
   explicit CommonDialog(std::string_view name) : name_(name) {}

@@ -30,15 +30,18 @@ class Form {
   /// The control of that name, names without regard to case; none if there is none.
   Control* find(std::string_view name) const;
 
+  /// Whether the form is on view or could be: its controls take what the operator does.
   bool loaded() const { return loaded_; }
   void setLoaded(bool loaded) { loaded_ = loaded; }
 
+  /// The form's place on the screen, in twips.
   const Box& box() const { return box_; }
   void setBox(const Box& box) { box_ = box; }
   float fontSize() const { return fontSize_; }
   void setFontSize(float points) { fontSize_ = points; }
   WindowState state() const { return state_; }
   void setState(WindowState state) { state_ = state; }
+  /// The mouse pointer while the tools run.
   Pointer pointer() const { return pointer_; }
   void setPointer(Pointer pointer) { pointer_ = pointer; }
 

@@ -11,6 +11,8 @@ namespace norvik::front {
 
 enum class Selection { single, multiple };
 
+/// Items, a selection, and for some lists check marks. Filling is linear: an item costs the same
+/// whatever the list holds. Indexes outside the list change nothing.
 class ListBox : public Control {
  public:
   static constexpr int kNone = -1;
@@ -22,13 +24,18 @@ class ListBox : public Control {
   /// The item at an index from 0; empty beyond the last one and for a negative index.
   std::string_view item(int index) const;
 
+  /// Empties the list and forgets the selection.
   void clear();
+  /// Adds an item at the end.
   void add(std::string_view item);
+  /// Takes an item out; those behind it move up with their selection.
   void remove(int index);
 
   bool multiple() const { return selection_ == Selection::multiple; }
   bool selected(int index) const;
+  /// Selects an item without a click; a single-selection list keeps one at the most.
   void setSelected(int index, bool selected);
+  /// The indexes of the selected items, in list order.
   std::vector<int> selection() const;
   void clearSelection();
 

@@ -39,6 +39,7 @@ Opening::Opening()
     control->setVisible(stays);
   }
   ImageSplash.show();
+  MenuCR2Tools.setEnabled(false);
   setTips(*this);
   setColours(*this);
   layOut(*this);

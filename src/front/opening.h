@@ -42,30 +42,43 @@ class Opening : public Form, public OpeningMenus {
 
   // The destination pane.
 
+  /// The destination's path, shortened; tools compare it with LabelChannelFileName.
   Label LabelFileName{*this, "LabelFileName"};
+  /// The destination's size in bytes.
   Label LabelFileSize{*this, "LabelFileSize"};
   Label LabelBodyParts{*this, "LabelBodyParts", "Body Parts"};
+  /// The destination's body parts, each with the number of its line behind a "*".
   ListBox ListActors{*this, "ListActors", Selection::multiple};
   Label LabelMaterials{*this, "LabelMaterials", "Materials"};
+  /// The destination's materials.
   ListBox ListMaterials{*this, "ListMaterials"};
+  /// Hidden: their colours, red, green and blue from 0 to 256, by the same index.
   ListBox ListMATColors{*this, "ListMATColors"};
+  /// Hidden: their highlights, the same.
   ListBox ListMatHiLite{*this, "ListMatHiLite"};
+  /// Its background is the chosen material's colour.
   PictureButton PictureMatColor{*this, "PictureMatColor"};
+  /// Its background is the chosen material's highlight.
   PictureButton PictureMatHiLite{*this, "PictureMatHiLite"};
 
   // The source pane.
 
   Label LabelOpenSourceTitle{*this, "LabelOpenSourceTitle", "Open Source"};
-  Label LabelOpenSource{*this, "LabelOpenSource"};
+  /// A picture button, whatever its name says.
+  PictureButton LabelOpenSource{*this, "LabelOpenSource"};
+  /// The source's path, shortened; the destination's while no source is open.
   Label LabelChannelFileName{*this, "LabelChannelFileName"};
+  /// Channels, or the source's body parts; item 0 says which. Names are read back by column.
   ListBox ListChannels{*this, "ListChannels", Selection::multiple};
   Shape ShapeChannels{*this, "ShapeChannels"};
 
   // The path block.
 
   Label LabelMainOBJPath{*this, "LabelMainOBJPath", "Main OBJ"};
+  /// What stands behind "Geometries:" in the figure's reference, or an edited path.
   TextBox TextMainOBJ{*this, "TextMainOBJ"};
   Label LabelPropOBJs{*this, "LabelPropOBJs", "Prop OBJs"};
+  /// The geometry of the figure's props, for reading.
   ListBox ListPropObj{*this, "ListPropObj"};
   Label LabelMainTex{*this, "LabelMainTex", "Main Texture"};
   TextBox TextMainTex{*this, "TextMainTex"};
@@ -77,6 +90,7 @@ class Opening : public Form, public OpeningMenus {
   TextBox TextMainReflect{*this, "TextMainReflect"};
   Shape Shape1{*this, "Shape1"};
   Shape LineObj{*this, "LineObj"};
+  /// Every texture of the figure; pops up over TextMainTex.
   ListBox ListAllTexMaps{*this, "ListAllTexMaps"};
 
   // Tool pictures.
@@ -99,10 +113,15 @@ class Opening : public Form, public OpeningMenus {
   PictureButton PictureCR2InstallCancel{*this, "PictureCR2InstallCancel"};
   PictureButton PicturePrintCR2Files{*this, "PicturePrintCR2Files"};
   PictureButton PictureChannelReorderDone{*this, "PictureChannelReorderDone"};
+  /// The tile of the closing animation.
   PictureButton PictureTile{*this, "PictureTile"};
+  /// The bracket checker found pairs.
   PictureButton PictureBrktsOK{*this, "PictureBrktsOK"};
+  /// It found too few left brackets.
   PictureButton PictureBrktLeft{*this, "PictureBrktLeft"};
+  /// It found too few right ones.
   PictureButton PictureBrktRight{*this, "PictureBrktRight"};
+  /// Reminds the operator to click the bracket picture.
   PictureButton PicturePushPin{*this, "PicturePushPin"};
 
   // Small entry controls, hidden until a tool needs them.
@@ -126,11 +145,14 @@ class Opening : public Form, public OpeningMenus {
   CommandButton CommandDialHideDone{*this, "CommandDialHideDone", "Done"};
   OptionButton OptionAlphabetize{*this, "OptionAlphabetize", "Alphabetize", &FrameDialHiding};
   TextBox TextOpeningNotes{*this, "TextOpeningNotes"};
+  /// The recent files, oldest first.
   ListBox ListMRU{*this, "ListMRU"};
+  /// What the empty window shows.
   Image ImageSplash{*this, "ImageSplash"};
 
   // Lists that are state rather than display.
 
+  /// One item a morph: actor, "*", dial, "^", line of the actor, "@", internal name.
   ListBox ListChannelsReorder{*this, "ListChannelsReorder"};
   ListBox ListChannelsReorderByPart{*this, "ListChannelsReorderByPart"};
   ListBox ListChannelsReorderNewOrder{*this, "ListChannelsReorderNewOrder"};
@@ -144,8 +166,11 @@ class Opening : public Form, public OpeningMenus {
 
   // Hidden labels that hold state.
 
+  /// The destination's full path.
   Label LabelFileNameForEditor{*this, "LabelFileNameForEditor"};
+  /// The source's full path; the destination's while no source is open.
   Label LabelChannelFileNameForEditor{*this, "LabelChannelFileNameForEditor"};
+  /// The main OBJ's full path on the disk.
   Label LabelOBJFileName{*this, "LabelOBJFileName"};
   Label LabelSaveObjPath{*this, "LabelSaveObjPath"};
   Label LabelNLen{*this, "LabelNLen"};
@@ -154,8 +179,11 @@ class Opening : public Form, public OpeningMenus {
   Label LabelRtDir{*this, "LabelRtDir"};
   Label LabelEMC{*this, "LabelEMC"};
 
+  /// Hides ListAllTexMaps.
   Timer TimerListAllTexMaps{*this, "TimerListAllTexMaps", 5000};
+  /// Shows PicturePushPin.
   Timer TimerPushpin{*this, "TimerPushpin", 1500};
+  /// Paces the columns of the closing animation.
   Timer TimerTileClose{*this, "TimerTileClose", 200};
 
   // File dialogs, each with its own last name.

@@ -22,6 +22,8 @@ struct Routines {
   std::function<void(const std::string& path)> ViewChannels;
 };
 
+/// A tool gets a reference to it when it is wired, and keeps it: the session outlives every
+/// handler.
 class Session {
  public:
   Session(FrontEnd& front, text::Disk& disk, Settings& settings, Opening& opening);
@@ -45,6 +47,7 @@ class Session {
   /// Unloads a form as its close box does. The main form's unloading ends the process.
   void unload(Form& form);
 
+  /// The mouse pointer of a long pass.
   void hourglass(bool on);
 
   /// Runs a handler. An error of the file layer ends it here and is shown to the operator.

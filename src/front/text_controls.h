@@ -21,12 +21,14 @@ class CaptionControl : public Control {
   std::string caption_;
 };
 
+/// A line of text for display; the path labels are also clicked, and the hidden ones hold state.
 class Label : public CaptionControl {
  public:
   Label(Form& form, std::string_view name, std::string_view caption = {})
       : CaptionControl(form, name, ControlKind::label, caption) {}
 };
 
+/// A button with words on it.
 class CommandButton : public CaptionControl {
  public:
   CommandButton(Form& form, std::string_view name, std::string_view caption)
@@ -43,6 +45,7 @@ class TextBox : public Control {
   /// Sets the text as a tool does; `changed` is for what the operator types.
   void setText(std::string_view text) { set(text_, text); }
 
+  /// The caret's place in bytes from the start, and how many bytes behind it are selected.
   std::size_t caret() const { return caret_; }
   std::size_t selectionLength() const { return selectionLength_; }
   void setCaret(std::size_t position, std::size_t length) {
@@ -50,8 +53,8 @@ class TextBox : public Control {
     set(selectionLength_, length);
   }
 
-  Event<> changed;
-  Event<> caretMoved;
+  Event<> changed;     ///< the operator has typed
+  Event<> caretMoved;  ///< the operator has placed the caret or selected
 
  private:
   std::string text_;

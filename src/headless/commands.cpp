@@ -114,11 +114,14 @@ front::Control& Commands::find(const std::string& name) {
   return *control;
 }
 
+void Commands::requireInFront(const front::Form& form) const {
+  const front::Form* modal = front_.modalForm();
+  if (modal != nullptr && modal != &form) throw Refused{"the form " + modal->name() + " waits"};
+}
+
 front::Control& Commands::reach(const std::string& name) {
   front::Control& control = find(name);
-  if (front_.modalForm() != nullptr && front_.modalForm() != &control.form()) {
-    throw Refused{"the form " + front_.modalForm()->name() + " waits"};
-  }
+  requireInFront(control.form());
   if (!control.visible()) throw Refused{control.name() + " is hidden"};
   if (!control.reachable()) throw Refused{control.name() + " is disabled"};
   return control;
@@ -129,6 +132,12 @@ Kind& Commands::reachAs(const std::string& name, const char* kind) {
   auto* control = dynamic_cast<Kind*>(&reach(name));
   if (control == nullptr) throw Refused{name + " is no " + kind};
   return *control;
+}
+
+front::Form& Commands::reachForm(const std::string& name) {
+  front::Form& form = loadedForm(name);
+  requireInFront(form);
+  return form;
 }
 
 front::Form& Commands::loadedForm(const std::string& name) {
@@ -196,10 +205,11 @@ void Commands::addProgram() {
     const std::string name = line.word();
     front::Form* form = session_.findForm(name);
     if (form == nullptr) throw Refused{"no form '" + name + "'"};
+    if (form == &session_.opening) throw Refused{"the main form is loaded by start"};
     if (form->loaded()) throw Refused{"the form " + form->name() + " is loaded"};
     session_.deliver([&] { session_.load(*form); });
   };
-  commands_["close"] = [this, unload](ScriptLine& line) { unload(loadedForm(line.word())); };
+  commands_["close"] = [this, unload](ScriptLine& line) { unload(reachForm(line.word())); };
   commands_["frames"] = [this](ScriptLine& line) {
     constexpr int kMost = 1'000'000;
     front_.setFrames(within(wholeNumber(line.word()), 1, kMost));
@@ -269,7 +279,7 @@ void Commands::addInput() {
     if (key.empty()) throw Refused{"no key"};
     front::Form* form = session_.findForm(name);
     if (form != nullptr) {
-      acts_.key(loadedForm(name), key);
+      acts_.key(reachForm(name), key);
     } else {
       acts_.key(reach(name), key);
     }

@@ -38,7 +38,9 @@ class Commands {
   front::Control& reach(const std::string& name);
   template <typename Kind>
   Kind& reachAs(const std::string& name, const char* kind);
+  void requireInFront(const front::Form& form) const;
   front::Form& loadedForm(const std::string& name);
+  front::Form& reachForm(const std::string& name);
   int itemIndex(front::ListBox& list, const std::string& text);
   front::ListBox& selectItem(ScriptLine& line);
   void fail(const ScriptLine& line, const std::string& why);

@@ -14,6 +14,7 @@ std::string jsonString(std::string_view bytes);
 /// The shortest text that reads back as the number.
 std::string jsonNumber(float number);
 
+/// An event on its way to the transcript. Keys are not checked for being new.
 class JsonObject {
  public:
   /// Begins with the key "event".

@@ -4,6 +4,7 @@
 #include "headless/runner.h"
 
 #include <exception>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -16,7 +17,8 @@ int run(const Options& options) {
   const auto host = norvik::text::makePosixHost();
   if (options.script == "-") return runScript(options, *host, std::cin, std::cout);
   std::ifstream script(options.script, std::ios::binary);
-  if (!script) throw BadOption{"cannot read the script '" + options.script + "'"};
+  if (!script || std::filesystem::is_directory(options.script))
+    throw BadOption{"cannot read the script '" + options.script + "'"};
   return runScript(options, *host, script, std::cout);
 }
 

@@ -37,7 +37,7 @@ std::pair<char, std::string> driveOf(const std::string& value) {
                       std::isalpha(static_cast<unsigned char>(value[0])) != 0;
   if (!formed) throw BadOption{"--drive takes L=FOLDER, not '" + value + "'"};
   std::error_code error;
-  const auto folder = std::filesystem::absolute(value.substr(2), error).lexically_normal();
+  const auto folder = std::filesystem::canonical(value.substr(2), error);
   if (error || !std::filesystem::is_directory(folder, error)) {
     throw BadOption{"--drive: no folder '" + value.substr(2) + "'"};
   }

@@ -96,7 +96,9 @@ ExitCode runScript(const Options& options, text::HostOps& host, std::istream& in
       [&session](front::Form& form) { session.deliver([&] { session.unload(form); }); });
   while (!frontEnd.ended() && step()) {
   }
-  return outcome.exitCode();
+  // A transcript that did not get out must not look like a run that went well.
+  out.flush();
+  return out ? outcome.exitCode() : kRunnerFailed;
 }
 
 }  // namespace norvik::headless

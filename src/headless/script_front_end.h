@@ -14,6 +14,8 @@
 
 namespace norvik::headless {
 
+/// Message boxes of one button answer themselves; all else takes what the script has queued. A
+/// question that finds nothing queued stops its tool and is remembered in the outcome.
 class ScriptFrontEnd : public front::FrontEnd {
  public:
   struct Options {

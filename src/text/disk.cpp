@@ -260,6 +260,15 @@ void Disk::rename(std::string_view from, std::string_view to) {
   moveFile(host_, followLinks(host_, source.name), followLinks(host_, target.name), false);
 }
 
+/// Gives a file the spelling of a path's last name, from which it differs in case alone.
+void Disk::respell(const std::string& name, std::string_view path) {
+  const std::string wanted =
+      joined(name.substr(0, name.find_last_of('/')), parse(path).parts.back());
+  const bool sameFolder = equalIgnoringCase(name, wanted);
+  // Should it fail, the file is whole under its old spelling.
+  if (sameFolder && name != wanted) static_cast<void>(host_.renameNew(name, wanted));
+}
+
 void Disk::replace(std::string_view scratch, std::string_view target) {
   const Place old = locateWritable(target);
   if (!old.exists()) return rename(scratch, target);
@@ -269,6 +278,7 @@ void Disk::replace(std::string_view scratch, std::string_view target) {
   syncFile(made.name);
   keepIdentity(host_, made.name, old.status);
   moveFile(host_, made.name, name, true);
+  respell(name, target);
 }
 
 std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {

@@ -56,9 +56,9 @@ class Disk {
   void rename(std::string_view from, std::string_view to);
 
   /// Deletes `target`, if it exists, and renames `scratch` to it, so that at every instant the old
-  /// or the new file stands complete under the name. Links are followed; the mode and, where
-  /// allowed, the owner of the old file are kept. On an error the old file stands as it was, and so
-  /// does `scratch`.
+  /// or the new file stands complete under the name, which in the end is spelled as it is here.
+  /// Links are followed; the mode and, where allowed, the owner of the old file are kept. On an
+  /// error the old file stands as it was, and so does `scratch`.
   void replace(std::string_view scratch, std::string_view target);
 
   /// Gives `file` the mode and owner of `model`, but for the read-only attribute. Never fails.
@@ -96,6 +96,7 @@ class Disk {
   Place locateWritable(std::string_view path) const;
   std::unique_ptr<HostFile> open(const std::string& name, HostOpenMode mode) const;
   void syncFile(const std::string& name) const;
+  void respell(const std::string& name, std::string_view path);
 
   HostOps& host_;
   std::map<char, std::string> drives_;

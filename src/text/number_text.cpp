@@ -58,6 +58,20 @@ std::string fixedForm(const Decimal& decimal) {
   return decimal.digits.substr(0, whole) + "." + decimal.digits.substr(whole);
 }
 
+/// Whether a number that no double can hold is too small for it, and not too large.
+bool isTiny(std::string_view number) {
+  const auto mark = std::min(number.find('e'), number.size());
+  const auto mantissa = number.substr(0, mark);
+  const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto first = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+  std::string_view power = number.substr(std::min(mark + 1, number.size()));
+  if (power.starts_with('+')) power.remove_prefix(1);
+  int exponent = 0;
+  const auto parsed = std::from_chars(power.data(), power.data() + power.size(), exponent);
+  if (parsed.ec == std::errc::result_out_of_range) return power.starts_with('-');
+  return point - first + exponent < 0;
+}
+
 }  // namespace
 
 std::string numberText(float number) {
@@ -104,9 +118,7 @@ double value(std::string_view text) {
   double result = 0;
   const auto parsed = std::from_chars(readable.data(), readable.data() + readable.size(), result);
   if (parsed.ec == std::errc::result_out_of_range) {
-    // Too small is 0; too large is infinite.
-    const bool tiny = number.find("e-") != std::string::npos || number.find("0.0") == 0;
-    const double size = tiny ? 0 : std::numeric_limits<double>::infinity();
+    const double size = isTiny(number) ? 0 : std::numeric_limits<double>::infinity();
     return readable.starts_with('-') ? -size : size;
   }
   return parsed.ec == std::errc{} ? result : 0;

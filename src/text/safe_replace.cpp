@@ -18,10 +18,10 @@ std::string folderOf(const std::string& name) {
   return slash == 0 ? "/" : name.substr(0, slash);
 }
 
+/// The new name stands by now, so an error must not read as if nothing had happened: then the name
+/// is as safe as the file system makes it.
 void syncFolderOf(HostOps& host, const std::string& name) {
-  const int error = host.syncFolder(folderOf(name));
-  // Some file systems cannot; then the entry is as safe as they make it.
-  if (error != EINVAL && error != ENOTSUP && error != EACCES) raise(error);
+  static_cast<void>(host.syncFolder(folderOf(name)));
 }
 
 /// Makes a new file in the folder of `target`, filled by `fill` and flushed, and returns its name.
@@ -98,7 +98,11 @@ void moveFile(HostOps& host, const std::string& from, const std::string& to, boo
     raise(failed);
   }
   syncFolderOf(host, to);
-  raise(host.remove(from));
+  const int notRemoved = host.remove(from);
+  // A file that was replaced cannot come back: the source stays behind. A mere copy can go again.
+  if (notRemoved == 0 || over) return;
+  static_cast<void>(host.remove(to));
+  raise(notRemoved);
 }
 
 void replaceContent(HostOps& host, const std::string& name, std::string_view content) {

@@ -1,0 +1,124 @@
+// The state of controls, as the runner prints it and compares it.
+
+#include "headless/pad_form.h"
+#include "headless/script_bench.h"
+
+#include <gtest/gtest.h>
+
+namespace norvik::headless {
+namespace {
+
+class ShowEvent : public ::testing::Test {
+ protected:
+  ShowEvent() {
+    bench.session().addForm(pad);
+    bench.play("load Pad\n");
+    for (front::Control* control : pad.controls()) {
+      control->setBox({1, 2.5F, 30, 4});
+      control->setFore(0xC00000);
+      control->setBack(255);
+      control->setTip("a \"tip\"");
+    }
+  }
+
+  std::string shown(const std::string& name) {
+    const Lines events = bench.play("show Pad." + name + "\n");
+    return events.size() == 1 ? events[0] : std::to_string(events.size()) + " events";
+  }
+
+  static std::string state(const std::string& name, const std::string& kind,
+                           const std::string& own) {
+    return R"({"event":"show","control":"Pad.)" + name + R"(","kind":")" + kind +
+           R"(","visible":true,"enabled":true,"left":1,"top":2.5,"width":30,"height":4,)" +
+           R"("fore":12582912,"back":255,"tip":"a \"tip\"")" + own + "}";
+  }
+
+  PadForm pad;
+  ScriptBench bench;
+};
+
+TEST_F(ShowEvent, OfALabelHasItsCaption) {
+  EXPECT_EQ(shown("LabelPad"), state("LabelPad", "label", R"(,"caption":"a label")"));
+}
+
+TEST_F(ShowEvent, OfAMenuEntryHasItsCaption) {
+  EXPECT_EQ(shown("MenuLeaf"), state("MenuLeaf", "menu entry", R"(,"caption":"Leaf")"));
+}
+
+TEST_F(ShowEvent, OfAListHasItemsAndSelection) {
+  EXPECT_EQ(shown("ListPad"), state("ListPad", "list box", R"(,"items":[],"selected":[])"));
+  for (const char* item : {"one", "", "tab\there", "back\\slash", "\xE9\xFF"}) {
+    pad.ListPad.add(item);
+  }
+  bench.play("select Pad.ListPad 4 1\n");
+  EXPECT_EQ(shown("ListPad"),
+            state("ListPad", "list box",
+                  ",\"items\":[\"one\",\"\",\"tab\\there\",\"back\\\\slash\",\"\u00E9\u00FF\"],"
+                  "\"selected\":[1,4]"));
+}
+
+TEST_F(ShowEvent, OfATextBoxHasItsText) {
+  pad.TextPad.setText("two\r\nlines");
+  pad.RichPad.setText("rich");
+  pad.ComboPad.setText("combo");
+  EXPECT_EQ(shown("TextPad"), state("TextPad", "text box", R"(,"text":"two\r\nlines")"));
+  EXPECT_EQ(shown("RichPad"), state("RichPad", "rich text box", R"(,"text":"rich")"));
+  EXPECT_EQ(shown("ComboPad"), state("ComboPad", "combo box", R"(,"text":"combo")"));
+}
+
+TEST_F(ShowEvent, OfAChoiceHasItsValue) {
+  pad.OptionA.setValue(true);
+  pad.SliderPad.setValue(-3);
+  EXPECT_NE(shown("OptionA").find(R"("value":true})"), std::string::npos);
+  EXPECT_NE(shown("OptionB").find(R"("value":false})"), std::string::npos);
+  EXPECT_NE(shown("CheckPad").find(R"("value":false})"), std::string::npos);
+  EXPECT_EQ(shown("SliderPad"), state("SliderPad", "slider", R"(,"value":-3)"));
+}
+
+TEST_F(ShowEvent, OfATimerHasIntervalAndWhetherItRuns) {
+  EXPECT_EQ(shown("TimerPad"), state("TimerPad", "timer", R"(,"interval":250,"running":false)"));
+  pad.TimerPad.start();
+  EXPECT_EQ(shown("TimerPad"), state("TimerPad", "timer", R"(,"interval":250,"running":true)"));
+}
+
+TEST_F(ShowEvent, OfAPictureHasTheCommonState) {
+  pad.PicturePad.hide();
+  pad.PicturePad.setEnabled(false);
+  EXPECT_NE(shown("PicturePad").find(R"("kind":"picture button","visible":false,"enabled":false,)"),
+            std::string::npos);
+}
+
+TEST_F(ShowEvent, OfAFormComesInTheOrderOfItsDeclaration) {
+  const Lines names{"LabelPad", "ListPad",   "ListOne",    "TextPad",    "RichPad",
+                    "ComboPad", "FramePad",  "OptionA",    "OptionB",    "OptionOutside",
+                    "CheckPad", "SliderPad", "PicturePad", "CommandPad", "TimerPad",
+                    "MenuPad",  "MenuInner", "MenuLeaf"};
+  const Lines events = bench.play("show-form Pad\n");
+  ASSERT_EQ(events.size(), names.size());
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    EXPECT_EQ(events[i].find(R"({"event":"show","control":"Pad.)" + names[i] + R"(",)"), 0U)
+        << events[i];
+  }
+}
+
+TEST_F(ShowEvent, OnTheMainFormNeedsNoFormName) {
+  bench.start();
+  const Lines events = bench.play("show TimerPushpin\n");
+  ASSERT_EQ(events.size(), 1U);
+  EXPECT_EQ(events[0].find(R"({"event":"show","control":"TimerPushpin","kind":"timer",)"), 0U);
+}
+
+TEST_F(ShowEvent, TextsOfPropertiesCanBeExpected) {
+  pad.ListPad.add("one");
+  pad.ListPad.add(" two ");
+  pad.LabelPad.setCaption("  blanks");
+  EXPECT_EQ(bench.play("expect Pad.ListPad items one| two \nexpect Pad.LabelPad caption   blanks\n"
+                       "expect Pad.LabelPad top 2.5\nexpect Pad.LabelPad width 30\n"
+                       "expect Pad.LabelPad tip a \"tip\"\nexpect Pad.CheckPad value false\n"
+                       "expect Pad.LabelPad enabled true\nexpect Pad.TimerPad interval 250\n"),
+            Lines{});
+  EXPECT_EQ(bench.outcome.exitCode(), kDone);
+}
+
+}  // namespace
+}  // namespace norvik::headless
