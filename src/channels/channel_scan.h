@@ -1,7 +1,8 @@
 #pragma once
-// Runs of a scan that ends quietly where its file does.
+// What the scans for channels share.
 
 #include "text/file_error.h"
+#include "text/line_reader.h"
 
 namespace norvik::channels {
 
@@ -15,6 +16,12 @@ bool untilEndOfFile(Scan&& scan) {
     if (error.number() != text::ErrorNumber::inputPastEnd) throw;
     return false;
   }
+}
+
+/// Passes over lines as LineReader::skipLines does, without the cost of counting them: most of what
+/// is passed over is the numbers of morphs.
+inline void passLines(text::LineReader& in, const text::LineFilter& filter) {
+  in.handOnLines(filter, [](std::string_view) {});
 }
 
 }  // namespace norvik::channels

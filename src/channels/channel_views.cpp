@@ -15,6 +15,9 @@ using text::anywhere;
 using text::atStart;
 
 /// One forward read of all actors. Reads at the end of the file throw, which ends the scan.
+///
+/// Lines are looked at where they were read, and what is kept or listed is built in texts that are
+/// used again: a figure has ten thousand morphs, and the list must be there at once.
 class AllChannelsScan {
  public:
   AllChannelsScan(front::Opening& opening, text::LineReader& in) : opening_(opening), in_(in) {}
@@ -23,7 +26,7 @@ class AllChannelsScan {
     findFirstActor(hair);
     static const text::LineFilter stops{anywhere("targetGeom"), anywhere("valueOpDeltaAdd"),
                                         atStart("actor")};
-    std::string line = nextLine(stops);
+    std::string_view line = nextLine(stops);
     for (;;) {
       if (text::begins(line, "actor")) enterActor(line);
       if (text::holds(line, "valueOpDeltaAdd")) {
@@ -37,30 +40,32 @@ class AllChannelsScan {
   }
 
  private:
-  std::string nextLine() {
-    std::string line{in_.line()};
+  // What these return is good until the next of them.
+
+  std::string_view nextLine() {
+    const auto line = in_.line();
     ++count_;
     return line;
   }
-  std::string nextLine(const text::LineFilter& stops) {
+  std::string_view nextLine(const text::LineFilter& stops) {
     count_.add(in_.skipLines(stops));
     return nextLine();
   }
-  std::string nextField() {
-    std::string field{in_.field()};
+  std::string_view nextField() {
+    const auto field = in_.field();
     ++count_;
     return field;
   }
 
-  void enterActor(const std::string& line) {
+  void enterActor(std::string_view line) {
     actor_ = text::from(line, 7);
-    actorLine_ = count_.asSingle(-1);
+    actorLine_ = text::numberText(count_.asSingle(-1));
   }
 
   void findFirstActor(bool hair) {
     static const text::LineFilter stops{atStart("actor"), atStart("prop")};
     for (;;) {
-      const std::string line = nextLine(stops);
+      const auto line = nextLine(stops);
       if (text::begins(line, "actor")) return enterActor(line);
       if (hair && text::begins(line, "prop")) return;
     }
@@ -68,32 +73,31 @@ class AllChannelsScan {
 
   /// Lists a morph without links, or leaves the first link to the caller. The line behind the
   /// header.
-  std::string listMorph(const std::string& entryLine) {
+  std::string_view listMorph(std::string_view entryLine) {
     static const text::LineFilter stops{anywhere("interpStyleLocked")};
-    const std::string internalName{text::from(entryLine, 14)};
+    internalName_ = text::from(entryLine, 14);
     nextLine();
-    dial_ = dialName(nextLine());
-    opening_.ListChannelsReorder.add(actor_ + "*" + dial_ + "^" + text::numberText(actorLine_) +
-                                     "@" + internalName);
+    link_.slaved = dialName(nextLine());
+    item_.assign(actor_).append("*").append(link_.slaved).append("^");
+    item_.append(actorLine_).append("@").append(internalName_);
+    opening_.ListChannelsReorder.add(item_);
     nextLine(stops);
-    std::string behind = nextLine();
+    const auto behind = nextLine();
     if (!text::holds(behind, "valueOpDeltaAdd")) {
       opening_.ListChannels.add(actor_);
-      opening_.ListChannels.add("\t" + dial_);
+      opening_.ListChannels.add(item_.assign("\t").append(link_.slaved));
     }
     return behind;
   }
 
   /// Lists a link under the last morph's dial, whatever channel holds it. The link's last line.
-  std::string listLink() {
-    ErcLink link;
-    link.figure = nextField();
-    link.group = nextField();
-    link.master = nextField();
-    std::string last = nextField();
-    link.ratio = text::after(last, " ");
-    link.slaved = dial_;
-    addErcItems(opening_.ListChannels, actor_, link);
+  std::string_view listLink() {
+    link_.figure = nextField();
+    link_.group = nextField();
+    link_.master = nextField();
+    const auto last = nextField();
+    link_.ratio = text::after(last, " ");
+    addErcItems(opening_.ListChannels, actor_, link_);
     return last;
   }
 
@@ -101,8 +105,10 @@ class AllChannelsScan {
   text::LineReader& in_;
   text::LineCount count_;
   std::string actor_;
-  float actorLine_ = 0;
-  std::string dial_;
+  std::string actorLine_ = text::numberText(0);
+  ErcLink link_;  ///< the last link; `slaved` is the last morph's dial
+  std::string internalName_;
+  std::string item_;
 };
 
 }  // namespace

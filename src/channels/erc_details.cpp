@@ -12,10 +12,6 @@ constexpr std::string_view kFigureHead = "\tFigure (Controlling): ";
 constexpr std::string_view kGroupHead = "\tMaster (Controlling) Group: ";
 constexpr std::string_view kRatioHead = "\tDelta Control Ratio: ";
 
-std::string joined(std::string_view head, std::string_view value) {
-  return std::string{head}.append(value);
-}
-
 /// How far below the slaved line a detail stands.
 int distanceFromSlaved(DetailClass detail) {
   switch (detail) {
@@ -35,13 +31,17 @@ int distanceFromSlaved(DetailClass detail) {
 }  // namespace
 
 void addErcItems(front::ListBox& list, std::string_view actor, const ErcLink& link) {
+  std::string item;
+  const auto addDetail = [&](std::string_view head, std::string_view value) {
+    list.add(item.assign(head).append(value));
+  };
   list.add(actor);
   list.add("\tERC Channel");
-  list.add(joined(kSlavedHead, link.slaved));
-  list.add(joined(kMasterHead, link.master));
-  list.add(joined(kFigureHead, link.figure));
-  list.add(joined(kGroupHead, link.group));
-  list.add(joined(kRatioHead, link.ratio));
+  addDetail(kSlavedHead, link.slaved);
+  addDetail(kMasterHead, link.master);
+  addDetail(kFigureHead, link.figure);
+  addDetail(kGroupHead, link.group);
+  addDetail(kRatioHead, link.ratio);
 }
 
 DetailClass detailClass(std::string_view text) {

@@ -17,14 +17,14 @@ using text::atStart;
 void passTo(text::LineReader& in, const std::string& wanted) {
   const text::LineFilter stops{atStart(wanted)};
   do {
-    in.skipLines(stops);
+    passLines(in, stops);
   } while (in.line() != wanted);
 }
 
 void passToHeaderEnd(text::LineReader& in) {
   static const text::LineFilter stops{anywhere("interp")};
   do {
-    in.skipLines(stops);
+    passLines(in, stops);
   } while (!text::holds(in.line(), "interp"));
 }
 
@@ -90,7 +90,7 @@ bool acceptsGeometry(front::Session& session, CopyRun& run, std::string_view lin
 bool findEntry(front::Session& session, CopyRun& run, text::LineReader& in) {
   const text::LineFilter stops{atStart(run.searchLine), atStart("figureR")};
   for (;;) {
-    in.skipLines(stops);
+    passLines(in, stops);
     const auto line = in.line();
     if (line == run.searchLine) return true;
     if (text::begins(line, "figureR") && !acceptsGeometry(session, run, line)) return false;
@@ -126,8 +126,8 @@ void chooseSearch(CopyRun& run, const front::ListBox& list, int index) {
 }
 
 bool extractMorph(front::Session& session, CopyRun& run, const std::string& selectedText) {
-  text::LineWriter out(session.disk, session.opening.inProgramFolder(kExtractFile),
-                       text::LineWriter::Mode::append);
+  // Emptied, should its delete have failed: an older extract must not get into the figure.
+  text::LineWriter out(session.disk, session.opening.inProgramFolder(kExtractFile));
   if (run.selectedClass == CopyRun::kLinkOfMorph) findLink(session, run, selectedText);
   text::LineReader in(session.disk, session.opening.LabelChannelFileNameForEditor.caption());
   if (!findEntry(session, run, in)) return false;

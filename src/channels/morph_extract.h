@@ -11,7 +11,7 @@ namespace norvik::channels {
 /// Reads the selected item of ListChannels and decides what is to be searched for.
 void chooseSearch(CopyRun& run, const front::ListBox& list, int index);
 
-/// Appends the selected entry, or the one link of it, to "\SaveMorph.txt". A source with another
+/// Writes the selected entry, or the one link of it, to "\SaveMorph.txt". A source with another
 /// main OBJ than the destination is asked about, once in a run; false when the operator does not
 /// want to go on. Throws FileError inputPastEnd (62) when the source does not hold the morph or the
 /// link.

@@ -152,9 +152,9 @@ void mergeMorph(front::Session& session, CopyRun& run) {
   text::ignoringErrors([&] { session.disk.remove(merged); });
 
   text::Disk& disk = session.disk;
-  LateFailure<text::LineWriter> out([&] {
-    return std::make_unique<text::LineWriter>(disk, merged, text::LineWriter::Mode::append);
-  });
+  // Emptied, should the delete have failed: a figure merged before must not stand in front.
+  LateFailure<text::LineWriter> out(
+      [&] { return std::make_unique<text::LineWriter>(disk, merged); });
   LateFailure<text::LineReader> extract(
       [&] { return std::make_unique<text::LineReader>(disk, extractFile); });
   LateFailure<text::LineReader> destination(

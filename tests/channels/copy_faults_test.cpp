@@ -85,6 +85,9 @@ class CopyFaultsTest : public testing::TestWithParam<Case> {
     drive.write(kDestination, copy_.destination);
     drive.write(kSource, copy_.source);
     drive.write(kOther, kOld);
+    // What runs before have left, after a No and after a run-time error.
+    drive.write("Norvik/InsertMorph.txt", kOld);
+    drive.write("Norvik/SaveMorph.txt", kOld);
     drive.makeFolder("Poser/Runtime/Geometries");
     FaultyHost host(*real_);
     if (test.separateFolders) host.separateFolders();
