@@ -79,8 +79,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const std::string start = "setting Startup PLoc C:\\Poser\\\n" + queued(pieces[1]) + "start\n";
   const std::string open = "choose " + path + "\nclick MenuFileOpen\n";
-  norvik::fuzz::runInMemory(host, start + (atStart ? "" : open) + "show-form Opening\nexit\n",
-                            atStart ? path : "");
+  const std::string panes = "show ListActors\nshow ListChannels\nshow ListMaterials\nexit\n";
+  norvik::fuzz::runInMemory(host, start + (atStart ? "" : open) + panes, atStart ? path : "");
 
   const Repairs wanted = expected(input.text, extension, pieces[1], atStart);
   requireEqual(host.bytesOf("/c/" + name), wanted.file, "the file");

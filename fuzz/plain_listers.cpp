@@ -68,16 +68,16 @@ void noteEmbedded(Listing& listing, const std::string& field) {
   listing.embedded = listing.embedded || holds(field, "geomCustom");
 }
 
-/// Steps from the folder part of the reference on. Whether all folders were there.
-bool follow(Listing& listing, std::string folder, const Enter& enter) {
+/// The steps from the folder part of the reference on; the error that ends them, 0 for none.
+int follow(Listing& listing, std::string folder, const Enter& enter) {
   std::string rest = listing.obj;
   while (holds(rest, ":")) {
     folder += "\\" + rest.substr(0, rest.find(':'));
-    if (!enter(folder)) return false;
+    if (const int error = enter(folder); error != 0) return error;
     rest.erase(0, rest.find(':') + 1);
   }
   listing.objFile = folder + "\\" + rest;
-  return true;
+  return 0;
 }
 
 bool isListed(const std::vector<std::string>& list, const std::string& reference) {
@@ -238,7 +238,7 @@ Listing plainPaths(const std::string& text, const Enter& enter) {
       listing.obj = tail(field);
       break;
     }
-    if (!follow(listing, "C:\\Poser\\Runtime\\Geometries", enter)) {
+    if (follow(listing, "C:\\Poser\\Runtime\\Geometries", enter) != 0) {
       listing.boxes.emplace_back(
           "Folding missing in OBJ path, you need to place the OBJ where it belongs or repoint it "
           "in the CR2. It may also be that you are missing the first colon, before the Runtime "
@@ -263,8 +263,8 @@ Listing plainPropPaths(const std::string& text, const Enter& enter) {
       listing.obj = tail(field);
       break;
     }
-    constexpr int kMissingFolder = 76;
-    if (!follow(listing, "C:\\Poser\\\\Runtime\\Geometries", enter)) throw kMissingFolder;
+    const int error = follow(listing, "C:\\Poser\\\\Runtime\\Geometries", enter);
+    if (error != 0) throw int{error};
     listProps(listing, in, false);
   });
 }

@@ -25,8 +25,8 @@ Listing plainActors(const std::string& extension, const std::string& text);
 Listing plainMaterials(const std::string& extension, const std::string& text);
 Listing plainMaps(const std::string& extension, const std::string& text);
 
-/// `enter` changes the current folder and tells whether it could.
-using Enter = std::function<bool(const std::string& folder)>;
+/// `enter` changes the current folder and returns the number of the error, 0 for none.
+using Enter = std::function<int(const std::string& folder)>;
 Listing plainPaths(const std::string& text, const Enter& enter);
 Listing plainPropPaths(const std::string& text, const Enter& enter);
 
