@@ -22,7 +22,7 @@ BracketCount countBrackets(text::LineReader& in) {
                                          anywhere("\"")};
   BracketCount total;
   do {
-    in.skipLines({anywhere("figureResFile"), anywhere("\"")});
+    in.passLines({anywhere("figureResFile"), anywhere("\"")});
   } while (!text::holds(in.field(), "figureResFile"));
   total.left = 1;
 
@@ -32,7 +32,7 @@ BracketCount countBrackets(text::LineReader& in) {
   while (!in.atEnd()) {
     if (!carried) {
       // In front of the first actor only brackets matter; behind one every field may be a label.
-      if (actors == 0) in.skipLines(brackets);
+      if (actors == 0) in.passLines(brackets);
       if (in.atEnd()) break;
       field = in.field();
     }
@@ -46,7 +46,7 @@ BracketCount countBrackets(text::LineReader& in) {
       while (!text::begins(field, kActor) && !in.atEnd()) {
         count(field, left, right);
         count(field, total.left, total.right);
-        in.skipLines(brackets);
+        in.passLines(brackets);
         if (in.atEnd()) {
           field.clear();
           break;

@@ -1,6 +1,9 @@
 #include "figure/line_ending_repair.h"
 
 #include "text/columns.h"
+#include "text/line_scan.h"
+
+#include <algorithm>
 
 namespace norvik::figure {
 
@@ -20,19 +23,28 @@ class Carry {
 
   /// Prints the lines that can be told by now.
   void print(text::LineWriter& scratch) {
-    while (rest().size() > 1) {
-      const auto lf = text_.find('\n', searched_);
-      if (lf == std::string::npos) return printAtReturns(scratch);
-      const auto line = std::string_view{text_}.substr(begin_, lf - begin_);
-      scratch.line(line.ends_with('\r') ? text::withoutLast(line, 1) : line);
-      begin_ = lf + 1;
-      if (rest().starts_with('\n')) ++begin_;
+    text::visitEach(
+        text_, searched_, [&](std::size_t lf) { printAtFeed(lf, scratch); }, '\n');
+    if (rest().size() <= 1) {
       searched_ = begin_;
+    } else {
+      // No LF is left.
+      searched_ = std::max(searched_, begin_);
+      printAtReturns(scratch);
     }
   }
 
  private:
   std::string_view rest() const { return std::string_view{text_}.substr(begin_); }
+
+  void printAtFeed(std::size_t lf, text::LineWriter& scratch) {
+    // Passed over behind another LF, or left as the only character.
+    if (lf < begin_ || rest().size() <= 1) return;
+    const auto line = std::string_view{text_}.substr(begin_, lf - begin_);
+    scratch.line(line.ends_with('\r') ? text::withoutLast(line, 1) : line);
+    begin_ = lf + 1;
+    if (rest().starts_with('\n')) ++begin_;
+  }
 
   void printAtReturns(text::LineWriter& scratch) {
     for (auto cr = text_.find('\r', searched_); cr != std::string::npos;

@@ -21,7 +21,7 @@ bool findMainMaterial(text::LineReader& in, const std::string& path) {
   const bool hair = text::extension(path) == "hr2";
   static const text::LineFilter stops{anywhere("material skin"), text::atStart("\tmaterial")};
   while (!in.atEnd()) {
-    in.skipLines(stops);
+    in.passLines(stops);
     if (in.atEnd()) break;
     const auto line = in.line();
     if (text::holds(line, "material skin")) return true;
@@ -46,7 +46,7 @@ void readMaps(front::Session& session, text::LineReader& in, Maps& maps) {
   int newValues = 0;
   bool collecting = true;
   while (!in.atEnd()) {
-    in.skipLines(stops);
+    in.passLines(stops);
     if (in.atEnd()) return;
     const std::string field{in.field()};
     if (text::holds(field, "transparencyMap")) maps.transparency = text::from(field, 17);

@@ -81,7 +81,7 @@ class MaterialPass {
 
   /// The next field that may be a material, a prop or a figure; nothing at the end of the file.
   std::optional<std::string_view> next(const text::LineFilter& stops) {
-    in_.skipLines(stops);
+    in_.passLines(stops);
     if (in_.atEnd()) return std::nullopt;
     return in_.field();
   }

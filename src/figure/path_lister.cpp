@@ -25,7 +25,7 @@ void noteEmbedded(front::Opening& opening, std::string_view field) {
 std::string findFigure(front::Opening& opening, text::LineReader& in) {
   static const text::LineFilter stops{anywhere("figure"), anywhere(kEmbedded), anywhere("\"")};
   while (!in.atEnd()) {
-    in.skipLines(stops);
+    in.passLines(stops);
     if (in.atEnd()) break;
     const auto field = in.field();
     noteEmbedded(opening, field);
@@ -37,7 +37,7 @@ std::string findFigure(front::Opening& opening, text::LineReader& in) {
 std::string findFirstProp(front::Opening& opening, text::LineReader& in) {
   static const text::LineFilter stops{anywhere("prop"), anywhere(kEmbedded), anywhere("\"")};
   while (!in.atEnd()) {
-    in.skipLines(stops);
+    in.passLines(stops);
     if (in.atEnd()) break;
     const auto field = in.field();
     noteEmbedded(opening, field);
@@ -91,7 +91,7 @@ void listProps(front::Opening& opening, text::LineReader& in, bool testReference
   static const text::LineFilter stops{anywhere("prop "), anywhere(kEmbedded), anywhere("\"")};
   PropReferences references(opening.ListPropObj);
   while (!in.atEnd()) {
-    in.skipLines(stops);
+    in.passLines(stops);
     if (in.atEnd()) break;
     std::string field{in.field()};
     noteEmbedded(opening, field);

@@ -1,7 +1,9 @@
 #include "figure/space_chopper.h"
 
-#include "text/columns.h"
+#include "text/line_scan.h"
 #include "text/rewrite_pass.h"
+
+#include <vector>
 
 namespace norvik::figure {
 
@@ -9,17 +11,58 @@ namespace {
 
 constexpr std::string_view kScratch = "Chop.doc";
 
+/// Takes a leading blank from each line of a block. Figures that need it need it in every line, so
+/// this looks at many bytes at a time and copies what stands between two such blanks.
+class LeadingBlanks {
+ public:
+  /// The lines without the blanks, good until the next call.
+  std::string_view removedFrom(std::string_view lines) {
+    kept_.resize(lines.size());
+    rest_ = lines;
+    size_ = 0;
+    std::size_t at = 0;
+    bool lineStart = true;
+    for (; at + text::ByteChunk::kSize <= lines.size(); at += text::ByteChunk::kSize) {
+      const text::ByteChunk chunk(lines.data() + at);
+      const std::uint64_t ends = chunk.matching('\r', '\n');
+      std::uint64_t blanks = chunk.matching(' ') & (ends << 1U | (lineStart ? 1U : 0U));
+      lineStart = text::isLineEnd(lines[at + text::ByteChunk::kSize - 1]);
+      for (; blanks != 0; blanks &= blanks - 1) {
+        leaveOut(lines.data() + at + text::firstOf(blanks));
+      }
+    }
+    for (; at < lines.size(); ++at) {
+      if (lineStart && lines[at] == ' ') leaveOut(lines.data() + at);
+      lineStart = text::isLineEnd(lines[at]);
+    }
+    if (size_ == 0 && rest_.size() == lines.size()) return lines;
+    keep(rest_.size());
+    return {kept_.data(), size_};
+  }
+
+ private:
+  void leaveOut(const char* blank) {
+    keep(static_cast<std::size_t>(blank - rest_.data()));
+    rest_.remove_prefix(1);
+  }
+  void keep(std::size_t count) {
+    rest_.copy(kept_.data() + size_, count);
+    rest_.remove_prefix(count);
+    size_ += count;
+  }
+
+  std::vector<char> kept_;
+  std::size_t size_ = 0;
+  std::string_view rest_;  ///< of the lines, behind the last blank that was left out
+};
+
 }  // namespace
 
 void SpaceChopper(front::Session& session, const std::string& path) {
   text::RewritePass pass(session.disk, path, kScratch);
-  const text::LineFilter indented{text::atStart(" ")};
-  for (;;) {
-    pass.copyLines(indented);
-    if (pass.in().atEnd()) break;
-    const auto line = pass.in().line();
-    pass.out().line(line.starts_with(' ') ? text::from(line, 2) : line);
-  }
+  LeadingBlanks blanks;
+  pass.in().handOnLines(
+      {}, [&](std::string_view lines) { pass.out().lines(blanks.removedFrom(lines)); });
   pass.finish();
   session.disk.replace(kScratch, path);
 }

@@ -1,5 +1,6 @@
 #include "text/line_filter.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace norvik::text {
@@ -34,13 +35,16 @@ LineFilter::LineFilter(std::initializer_list<Token> tokens) {
   for (const Token& token : tokens) searches_.push_back({token, rarestOffset(token.text)});
 }
 
-std::size_t LineFilter::find(std::string_view block, const Search& search) {
+/// The first hit that starts from `begin` on and in front of `end`, or `end`.
+std::size_t LineFilter::find(std::string_view block, std::size_t begin, std::size_t end,
+                             const Search& search) {
   const std::string_view token = search.token.text;
-  if (token.empty()) return 0;
+  if (token.empty()) return begin;
   const char rarest = token[search.rarest];
-  std::size_t offset = search.rarest;
-  while (offset < block.size()) {
-    const void* hit = std::memchr(block.data() + offset, rarest, block.size() - offset);
+  const std::size_t last = std::min(end + search.rarest, block.size());
+  std::size_t offset = begin + search.rarest;
+  while (offset < last) {
+    const void* hit = std::memchr(block.data() + offset, rarest, last - offset);
     if (hit == nullptr) break;
     const auto at = static_cast<std::size_t>(static_cast<const char*>(hit) - block.data());
     const std::size_t start = at - search.rarest;
@@ -48,19 +52,27 @@ std::size_t LineFilter::find(std::string_view block, const Search& search) {
     if (whole && (!search.token.atLineStart || startsLine(block, start))) return start;
     offset = at + 1;
   }
-  return block.size();
+  return end;
 }
 
 std::size_t LineFilter::find(std::string_view block) const {
-  std::size_t first = block.size();
-  for (const Search& search : searches_) {
-    // A later token need only be looked for in front of the best hit, with room for its own length.
-    if (first == 0) break;
-    const auto reach = first == block.size() ? first : first + search.token.text.size() - 1;
-    const auto hit = find(block.substr(0, reach), search);
-    if (hit < first) first = hit;
+  // Slice by slice, so that a token that is nowhere costs no more than the way to the next hit of
+  // another one. The first slice is small for lines that are hit one behind the other.
+  constexpr std::size_t kSmallest = 512;
+  constexpr std::size_t kLargest = std::size_t{32} * 1024;
+  std::size_t size = kSmallest;
+  for (std::size_t begin = 0; begin < block.size();) {
+    const std::size_t end = std::min(begin + size, block.size());
+    std::size_t first = end;
+    for (const Search& search : searches_) {
+      if (first == begin) break;
+      first = find(block, begin, first, search);
+    }
+    if (first < end) return first;
+    begin = end;
+    size = std::min(size * 2, kLargest);
   }
-  return first;
+  return block.size();
 }
 
 }  // namespace norvik::text

@@ -27,7 +27,8 @@ class LineFilter {
     Token token;
     std::size_t rarest;  ///< the offset of the character that is looked for first
   };
-  static std::size_t find(std::string_view block, const Search& search);
+  static std::size_t find(std::string_view block, std::size_t begin, std::size_t end,
+                          const Search& search);
 
   std::vector<Search> searches_;
 };

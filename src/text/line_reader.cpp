@@ -1,7 +1,6 @@
 #include "text/line_reader.h"
 
 #include "text/classic_errors.h"
-#include "text/line_scan.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,9 +11,6 @@ namespace {
 
 bool isBlank(char c) {
   return c == ' ' || c == '\t';
-}
-bool isLineEnd(char c) {
-  return c == '\r' || c == '\n';
 }
 
 }  // namespace
@@ -29,6 +25,7 @@ LineReader::LineReader(std::unique_ptr<HostFile> file)
 /// end.
 bool LineReader::refill() {
   if (fileEnded_) return false;
+  wholeEnd_ = 0;
   if (begin_ > 0) {
     std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
     filePosition_ += begin_;
@@ -41,10 +38,6 @@ bool LineReader::refill() {
   end_ += got;
   fileEnded_ = got == 0;
   return got > 0;
-}
-
-bool LineReader::atEnd() {
-  return begin_ == end_ && !refill();
 }
 
 /// The offset of the next line end among the unread bytes, or their number when the last line has
@@ -68,7 +61,7 @@ void LineReader::passLineEnd() {
   }
 }
 
-std::string_view LineReader::line() {
+std::string_view LineReader::anyLine() {
   if (atEnd()) throw FileError(ErrorNumber::inputPastEnd);
   const std::size_t length = findLineEnd();
   // Passing a CR at the buffer's end may move the bytes: have its LF there first.
@@ -84,7 +77,7 @@ void LineReader::skipBlanks() {
   while (!atEnd() && isBlank(buffer_[begin_])) ++begin_;
 }
 
-std::string_view LineReader::field() {
+std::string_view LineReader::anyField() {
   if (atEnd()) throw FileError(ErrorNumber::inputPastEnd);
   skipBlanks();
   const bool quoted = !atEnd() && buffer_[begin_] == '"';
@@ -126,16 +119,19 @@ std::string_view LineReader::field() {
   return result;
 }
 
-/// The length of the whole lines among the unread bytes. A CR in the last byte does not count while
-/// its LF may still be to come.
-std::size_t LineReader::wholeLines() const {
-  const std::string_view bytes = unread();
-  if (fileEnded_) return bytes.size();
-  if (bytes.size() < 2) return 0;
-  const auto lastEnd = bytes.find_last_of("\r\n", bytes.size() - 2);
-  if (lastEnd == std::string_view::npos) return 0;
-  const bool pair = bytes[lastEnd] == '\r' && bytes[lastEnd + 1] == '\n';
-  return lastEnd + (pair ? 2 : 1);
+/// The whole lines among the unread bytes. A CR in the last byte does not count while its LF may
+/// still be to come.
+std::string_view LineReader::wholeLines() {
+  if (wholeEnd_ == 0) {
+    std::size_t end = end_;
+    if (!fileEnded_ && end > 0) {
+      --end;
+      while (end > 0 && !isLineEnd(buffer_[end - 1])) --end;
+      if (end > 0) end += lineEndSize(buffer_.data() + end - 1) - 1;
+    }
+    wholeEnd_ = end;
+  }
+  return unread().substr(0, std::max(wholeEnd_, begin_) - begin_);
 }
 
 std::uint64_t LineReader::skipLines(const LineFilter& filter) {
@@ -146,9 +142,13 @@ std::uint64_t LineReader::skipLines(const LineFilter& filter) {
   return lines;
 }
 
+void LineReader::passLines(const LineFilter& filter) {
+  handOnLines(filter, [](std::string_view) {});
+}
+
 void LineReader::handOnLines(const LineFilter& filter, const Sink& sink) {
   while (atLineStart_ && !atEnd()) {
-    const std::string_view block = unread().substr(0, wholeLines());
+    const std::string_view block = wholeLines();
     if (block.empty()) {
       refill();
       continue;
@@ -156,8 +156,7 @@ void LineReader::handOnLines(const LineFilter& filter, const Sink& sink) {
     const std::size_t hit = filter.find(block);
     std::size_t length = hit;
     if (hit < block.size()) {
-      const auto lastEnd = hit == 0 ? std::string_view::npos : block.find_last_of("\r\n", hit - 1);
-      length = lastEnd == std::string_view::npos ? 0 : lastEnd + 1;
+      while (length > 0 && !isLineEnd(block[length - 1])) --length;
     }
     if (length > 0) sink(block.substr(0, length));
     begin_ += length;

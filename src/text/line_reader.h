@@ -3,6 +3,7 @@
 
 #include "text/disk.h"
 #include "text/line_filter.h"
+#include "text/line_scan.h"
 
 #include <cstdint>
 #include <functional>
@@ -26,18 +27,38 @@ class LineReader {
   /// Reads from a file that is open already, from its present position.
   explicit LineReader(std::unique_ptr<HostFile> file);
 
-  bool atEnd();
+  bool atEnd() { return begin_ == end_ && !refill(); }
 
   /// The next line without its ending, blanks and tabs intact. Behind a field read that stopped at
   /// a comma it is the rest of that line.
-  std::string_view line();
+  std::string_view line() {
+    if (end_ - begin_ <= ByteChunk::kSize) return anyLine();
+    const char* start = buffer_.data() + begin_;
+    const std::uint64_t ends = ByteChunk(start).matching('\r', '\n');
+    if (ends == 0) return anyLine();
+    const std::size_t length = firstOf(ends);
+    begin_ += length + lineEndSize(start + length);
+    atLineStart_ = true;
+    return {start, length};
+  }
 
   /// The next field: leading blanks and tabs are skipped, the field ends in front of a comma or a
   /// line end, which is passed over. A field that begins with a double quote runs to the closing
   /// quote (or to the end of the file), line ends included; the quotes are not part of it, and what
   /// follows the closing quote is skipped if it is blank up to a comma or line end, else it begins
   /// the next field. A blank line is an empty field.
-  std::string_view field();
+  std::string_view field() {
+    if (end_ - begin_ <= ByteChunk::kSize) return anyField();
+    const char* start = buffer_.data() + begin_;
+    const ByteChunk chunk(start);
+    const std::uint64_t ends = chunk.matching(',', '\r', '\n');
+    const std::size_t first = firstOf(~chunk.matching(' ', '\t'));
+    if (ends == 0 || start[first] == '"') return anyField();
+    const std::size_t end = firstOf(ends);
+    begin_ += end + lineEndSize(start + end);
+    atLineStart_ = start[end] != ',';
+    return {start + first, end - first};
+  }
 
   /// Bytes from the start of the file to the next read.
   std::uint64_t position() const { return filePosition_ + begin_; }
@@ -50,23 +71,30 @@ class LineReader {
   /// read does not start a line nothing is passed over.
   std::uint64_t skipLines(const LineFilter& filter);
 
-  /// Passes over the same lines, without counting them, and hands them to `sink`: whole lines with
-  /// their endings, but for one that the file ends in the middle of.
+  /// Passes over the same lines without the cost of counting them.
+  void passLines(const LineFilter& filter);
+
+  /// Passes over the same lines and hands them to `sink`: whole lines with their endings, but for
+  /// one that the file ends in the middle of.
   using Sink = std::function<void(std::string_view lines)>;
   void handOnLines(const LineFilter& filter, const Sink& sink);
 
  private:
   std::string_view unread() const { return {buffer_.data() + begin_, end_ - begin_}; }
   bool refill();
+  // The reads for lines and fields that are long, quoted or at the end of the bytes at hand.
+  std::string_view anyLine();
+  std::string_view anyField();
   std::size_t findLineEnd();
   void passLineEnd();
   void skipBlanks();
-  std::size_t wholeLines() const;
+  std::string_view wholeLines();
 
   std::unique_ptr<HostFile> file_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;  ///< of the unread bytes in the buffer
   std::size_t end_ = 0;
+  std::size_t wholeEnd_ = 0;        ///< of the last whole line; 0 until it was looked for
   std::uint64_t filePosition_ = 0;  ///< of the buffer's first byte
   bool fileEnded_ = false;
   bool atLineStart_ = true;

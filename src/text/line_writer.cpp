@@ -9,13 +9,18 @@ namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// Takes the first line off a text, its ending included, and returns it without that.
-std::string_view takeLine(std::string_view& lines) {
-  const std::size_t end = findLineEnd(lines, 0);
-  const auto line = lines.substr(0, end);
-  const bool pair = lines.substr(end).starts_with(kLineEnd);
-  lines.remove_prefix(std::min(end + (pair ? 2 : 1), lines.size()));
-  return line;
+/// Calls `use` with each line of a text, without its ending.
+template <typename Use>
+void forEachLine(std::string_view lines, Use use) {
+  std::size_t begin = 0;
+  const auto endAt = [&](std::size_t end) {
+    if (end < begin) return;  // the LF of a CR LF
+    use(lines.substr(begin, end - begin));
+    const bool pair = end + 1 < lines.size() && lines[end] == '\r' && lines[end + 1] == '\n';
+    begin = end + (pair ? 2 : 1);
+  };
+  visitEach(lines, 0, endAt, '\r', '\n');
+  if (begin < lines.size()) use(lines.substr(begin));
 }
 
 bool areWrittenAsTheyAre(std::string_view lines) {
@@ -25,25 +30,24 @@ bool areWrittenAsTheyAre(std::string_view lines) {
 }  // namespace
 
 LineWriter::LineWriter(Disk& disk, std::string_view path, Mode mode)
-    : file_(mode == Mode::create ? disk.openForWriting(path) : disk.openForAppending(path)) {
-  held_.reserve(kBlockSize);
-}
+    : file_(mode == Mode::create ? disk.openForWriting(path) : disk.openForAppending(path)),
+      held_(kBlockSize) {}
 
 LineWriter::~LineWriter() {
   if (file_ != nullptr) ignoringErrors([this] { flush(); });
 }
 
 void LineWriter::flush() {
-  if (held_.empty()) return;
-  const int error = file_->write(held_);
-  held_.clear();
+  if (size_ == 0) return;
+  const int error = file_->write({held_.data(), size_});
+  size_ = 0;
   raise(error);
 }
 
 void LineWriter::bytes(std::string_view bytes) {
-  if (held_.size() + bytes.size() > kBlockSize) flush();
+  if (bytes.size() > free()) flush();
   if (bytes.size() < kBlockSize / 4) {
-    held_.append(bytes);
+    put(bytes);
   } else {
     // A long stretch goes from where it was read, without a copy in between.
     flush();
@@ -51,7 +55,7 @@ void LineWriter::bytes(std::string_view bytes) {
   }
 }
 
-void LineWriter::line(std::string_view text) {
+void LineWriter::longLine(std::string_view text) {
   bytes(text);
   bytes(kLineEnd);
 }
@@ -63,15 +67,14 @@ void LineWriter::line(std::string_view first, std::string_view second) {
 
 void LineWriter::lines(std::string_view lines) {
   if (areWrittenAsTheyAre(lines)) return bytes(lines);
-  while (!lines.empty()) line(takeLine(lines));
+  forEachLine(lines, [this](std::string_view text) { line(text); });
 }
 
 void LineWriter::linesThatHoldText(std::string_view lines) {
   if (areWrittenAsTheyAre(lines) && !hasEmptyLines(lines)) return bytes(lines);
-  while (!lines.empty()) {
-    const auto text = takeLine(lines);
+  forEachLine(lines, [this](std::string_view text) {
     if (!text.empty()) line(text);
-  }
+  });
 }
 
 void LineWriter::close() {

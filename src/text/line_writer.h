@@ -3,9 +3,10 @@
 
 #include "text/disk.h"
 
+#include <cstring>
 #include <memory>
-#include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik::text {
 
@@ -23,7 +24,13 @@ class LineWriter {
   LineWriter& operator=(const LineWriter&) = delete;
   ~LineWriter();
 
-  void line(std::string_view text);
+  void line(std::string_view text) {
+    if (text.size() + 2 > free()) return longLine(text);
+    put(text);
+    held_[size_] = '\r';
+    held_[size_ + 1] = '\n';
+    size_ += 2;
+  }
   /// A line of several texts, one behind the other.
   void line(std::string_view first, std::string_view second);
 
@@ -42,9 +49,17 @@ class LineWriter {
 
  private:
   void flush();
+  void longLine(std::string_view text);
+  std::size_t free() const { return kBlockSize - size_; }
+  /// Adds bytes for which there is room.
+  void put(std::string_view bytes) {
+    if (!bytes.empty()) std::memcpy(held_.data() + size_, bytes.data(), bytes.size());
+    size_ += bytes.size();
+  }
 
   std::unique_ptr<HostFile> file_;
-  std::string held_;
+  std::vector<char> held_;  ///< a block, of which the first `size_` bytes wait to be written
+  std::size_t size_ = 0;
 };
 
 }  // namespace norvik::text

@@ -1,0 +1,51 @@
+#pragma once
+// A front end that nobody sits in front of.
+
+#include "front/front_end.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace norvik::fuzz {
+
+/// Answers every box alike, cancels every dialog, and remembers what the boxes said.
+class QuietFrontEnd final : public front::FrontEnd {
+ public:
+  void answerWith(front::Answer answer) { answer_ = answer; }
+  const std::vector<std::string>& boxes() const { return boxes_; }
+
+  front::Answer messageBox(std::string_view text, std::string_view, int style) override {
+    boxes_.emplace_back(text);
+    return (style & front::kButtonMask) == front::kOk ? front::Answer::ok : answer_;
+  }
+  std::optional<std::string> fileDialog(const front::FileDialog&) override { return {}; }
+  std::optional<front::Colour> colourDialog(front::Colour) override { return {}; }
+  bool printerDialog() override { return false; }
+  void print(std::string_view, const std::vector<std::string>&) override {}
+  void setHourglass(front::Form&, bool) override {}
+  void beep() override {}
+  void pumpEvents() override {}
+  void waitForOperator() override { throw front::ToolStopped{}; }
+  void show(front::Form&) override {}
+  void showModal(front::Form&) override {}
+  void unloaded(front::Form&) override {}
+  front::Screen screen() const override { return {}; }
+  bool drawTile(front::Form&, int, int) override { return false; }
+  int tileWidth() const override { return 1; }
+  int tileHeight() const override { return 1; }
+  void openDocument(std::string_view, std::string_view, std::string_view) override {}
+  void run(std::string_view) override {}
+  void playSound(std::string_view) override {}
+  std::string systemFolder() const override { return "C:\\WINDOWS"; }
+  front::Fetched fetch(std::string_view, std::string_view) override { return {}; }
+  std::string now() const override { return "2002-03-04 05:06:07"; }
+  void runtimeError(const text::FileError&) override {}
+  void endProcess() override {}
+
+ private:
+  front::Answer answer_ = front::Answer::ok;
+  std::vector<std::string> boxes_;
+};
+
+}  // namespace norvik::fuzz
