@@ -1,8 +1,7 @@
 #pragma once
-// What the scans for channels share.
+// Runs of a scan that ends quietly where its file does.
 
 #include "text/file_error.h"
-#include "text/line_reader.h"
 
 namespace norvik::channels {
 
@@ -16,12 +15,6 @@ bool untilEndOfFile(Scan&& scan) {
     if (error.number() != text::ErrorNumber::inputPastEnd) throw;
     return false;
   }
-}
-
-/// Passes over lines as LineReader::skipLines does, without the cost of counting them: most of what
-/// is passed over is the numbers of morphs.
-inline void passLines(text::LineReader& in, const text::LineFilter& filter) {
-  in.handOnLines(filter, [](std::string_view) {});
 }
 
 }  // namespace norvik::channels

@@ -17,14 +17,14 @@ using text::atStart;
 void passTo(text::LineReader& in, const std::string& wanted) {
   const text::LineFilter stops{atStart(wanted)};
   do {
-    passLines(in, stops);
+    in.passLines(stops);
   } while (in.line() != wanted);
 }
 
 void passToHeaderEnd(text::LineReader& in) {
   static const text::LineFilter stops{anywhere("interp")};
   do {
-    passLines(in, stops);
+    in.passLines(stops);
   } while (!text::holds(in.line(), "interp"));
 }
 
@@ -90,7 +90,7 @@ bool acceptsGeometry(front::Session& session, CopyRun& run, std::string_view lin
 bool findEntry(front::Session& session, CopyRun& run, text::LineReader& in) {
   const text::LineFilter stops{atStart(run.searchLine), atStart("figureR")};
   for (;;) {
-    passLines(in, stops);
+    in.passLines(stops);
     const auto line = in.line();
     if (line == run.searchLine) return true;
     if (text::begins(line, "figureR") && !acceptsGeometry(session, run, line)) return false;

@@ -42,7 +42,7 @@ class PartScan {
     return field;
   }
   std::optional<std::string> next(const text::LineFilter& stops) {
-    passLines(in_, stops);
+    in_.passLines(stops);
     return next();
   }
 
@@ -114,7 +114,7 @@ std::optional<std::string> nameInSource(front::Session& session, const std::stri
   const std::string bare{text::before(text::withoutLast(name, 1), ":")};
   text::LineReader in(session.disk, session.opening.LabelChannelFileNameForEditor.caption());
   while (!in.atEnd()) {
-    passLines(in, {anywhere(bare)});
+    in.passLines({anywhere(bare)});
     if (in.atEnd()) break;
     const auto line = in.line();
     if (text::holds(line, bare)) return bare + ":" + std::string{text::rightmost(line, 1)};
@@ -126,7 +126,7 @@ bool passLine(text::LineReader& in, const std::string& wanted) {
   const text::LineFilter stops{text::atStart(wanted)};
   return untilEndOfFile([&] {
     do {
-      passLines(in, stops);
+      in.passLines(stops);
     } while (in.line() != wanted);
   });
 }

@@ -5,8 +5,8 @@
 
 namespace norvik::channels {
 
-/// Hangs the arming on PictureTrash (a left click toggles it between kPictureRest and kPictureActive)
-/// and the starts of drags on the two lists. A press on a list sets DragOrigin.
+/// Hangs the arming on PictureTrash (a left click toggles it between kPictureRest and
+/// kPictureActive) and the starts of drags on the two lists. A press on a list sets DragOrigin.
 void wireTrash(front::Session& session);
 
 }  // namespace norvik::channels
