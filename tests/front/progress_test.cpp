@@ -1,8 +1,8 @@
 #include "front/progress.h"
 
-#include <gtest/gtest.h>
-
 #include "front/form.h"
+
+#include <gtest/gtest.h>
 
 namespace norvik::front {
 namespace {
