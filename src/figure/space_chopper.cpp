@@ -44,6 +44,8 @@ class LeadingBlanks {
   void leaveOut(const char* blank) {
     keep(static_cast<std::size_t>(blank - rest_.data()));
     rest_.remove_prefix(1);
+    // A lone CR must not make one line end with an LF that the blank stood in front of.
+    if (size_ > 0 && kept_[size_ - 1] == '\r') kept_[size_++] = '\n';
   }
   void keep(std::size_t count) {
     rest_.copy(kept_.data() + size_, count);

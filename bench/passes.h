@@ -1,0 +1,32 @@
+#pragma once
+// The passes that are timed, each by name.
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace norvik::bench {
+
+/// Which of the figures in the bench's folder a pass works on.
+enum class Figure {
+  plain,     ///< figure.cr2
+  lfEnds,    ///< lf.cr2: the same with LF line ends
+  oneBlank,  ///< one-blank.cr2: its first line begins with a blank
+  blanks     ///< blanks.cr2: every line does
+};
+std::string fileOf(Figure figure);
+
+/// What a pass is held against; reads and rewrites have a limit in times of cp.
+enum class Kind { read, rewrite, substitution, copy, open };
+
+struct Pass {
+  std::string name;
+  Kind kind;
+  Figure figure;
+  /// Works on a file of the folder, whose host name it is given.
+  std::function<void(const std::string& folder, const std::string& file)> run;
+};
+
+const std::vector<Pass>& passes();
+
+}  // namespace norvik::bench
