@@ -278,7 +278,8 @@ void Disk::replace(std::string_view scratch, std::string_view target) {
   syncFile(made.name);
   keepIdentity(host_, made.name, old.status);
   moveFile(host_, made.name, name, true);
-  respell(name, target);
+  // A link keeps its own name and its file's.
+  if (name == old.name) respell(name, target);
 }
 
 std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {

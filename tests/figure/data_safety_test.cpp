@@ -218,7 +218,7 @@ TEST_P(DataSafety, SaveUnderANewName) {
 TEST_P(DataSafety, SaveAsOverAnotherFigure) {
   Act act;
   act.before = editTexture;
-  act.script = "choose C:\\work\\Other.cr2\nclick MenuFileSaveAs\n";
+  act.script = "choose C:\\work\\other.cr2\nclick MenuFileSaveAs\n";
   act.target = "work/other.cr2";
   act.oldTarget = "another figure\r\n";
   failEverywhere(act, GetParam());

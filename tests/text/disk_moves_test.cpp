@@ -96,6 +96,15 @@ TEST_F(DiskMovesTest, ReplacePutsTheScratchFileInTheTargetsPlace) {
   EXPECT_EQ(folder.read("target.cr2"), "new");
 }
 
+TEST_F(DiskMovesTest, ReplaceDoesNotRenameWhatALinkPointsTo) {
+  folder.write("real.cr2", "old");
+  folder.makeLink("Link.cr2", folder.path("real.cr2"));
+  folder.write("scratch", "new");
+  disk.replace("C:\\scratch", "C:\\link.cr2");
+  EXPECT_EQ(folder.files(), (Names{"Link.cr2", "real.cr2"}));
+  EXPECT_EQ(folder.read("real.cr2"), "new");
+}
+
 TEST_F(DiskMovesTest, ReplaceMakesAMissingTarget) {
   folder.write("scratch", "new");
   disk.replace("C:\\scratch", "C:\\target.cr2");
