@@ -60,7 +60,10 @@ void ListBinding::refresh() {
     // An item more or less leaves the place in the list; another content starts at its top.
     const bool keepsPlace = std::abs(model_.rowCount() - list_.count()) <= 1;
     model_.update();
-    if (keepsPlace) view_.verticalScrollBar()->setValue(top);
+    if (keepsPlace) {
+      view_.doItemsLayout();
+      view_.verticalScrollBar()->setValue(top);
+    }
   } else if (list_.tickChanged.hasHandlers()) {
     view_.viewport()->update();
   }

@@ -34,7 +34,7 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
 }
 
 void ListModel::update() {
-  if (rows_ == list_.count() && !stale()) return;
+  if (!stale()) return;
   beginResetModel();
   rows_ = list_.count();
   seen_ = list_.itemChanges();

@@ -10,7 +10,8 @@ namespace norvik::desktop {
 /// Shows the items of a list box without a copy of them. update() tells the view what changed.
 class ListModel : public QAbstractListModel {
  public:
-  explicit ListModel(front::ListBox& list) : list_(list), seen_(list.itemChanges()) {}
+  explicit ListModel(front::ListBox& list)
+      : list_(list), seen_(list.itemChanges()), rows_(list.count()) {}
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -26,7 +27,7 @@ class ListModel : public QAbstractListModel {
  private:
   front::ListBox& list_;
   std::uint64_t seen_;
-  int rows_ = 0;
+  int rows_;
   bool tickable_ = false;
 };
 

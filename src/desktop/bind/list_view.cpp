@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 
 #include <utility>
 
@@ -20,9 +21,21 @@ int findFrom(const front::ListBox& list, int start, const Test& test) {
   return -1;
 }
 
+/// Rows with some air between them.
+class Rows : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    constexpr int kAir = 5;
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kAir);
+  }
+};
+
 }  // namespace
 
 ListView::ListView(QWidget* parent) : QListView(parent) {
+  setItemDelegate(new Rows(this));
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setTextElideMode(Qt::ElideMiddle);

@@ -41,7 +41,7 @@ Overlay* makeListCard(Maker& maker, front::ListBox& list, QWidget& over, Overlay
 }
 
 int rowsHeight(const front::ListBox& list, const QWidget& widget, int most) {
-  const int row = widget.fontMetrics().height() + 4;
+  const int row = widget.fontMetrics().height() + 6;
   return row * std::clamp(list.count(), 1, most) + 12;
 }
 

@@ -43,7 +43,7 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent) {
     } else {
       constexpr int kRows = 2;
       auto& props = maker.list(opening.ListPropObj, *frame);
-      props.setFixedHeight(props.fontMetrics().height() * kRows + 12);
+      props.setFixedHeight((props.fontMetrics().height() + 5) * kRows + 6);
       value = &props;
     }
     value->setAccessibleName(QString::fromStdString(row.label.caption()));
@@ -52,7 +52,8 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent) {
     ++line;
   }
   auto* rule = new QFrame(block);
-  rule->setFrameStyle(QFrame::HLine);
+  rule->setFrameStyle(static_cast<int>(QFrame::HLine) | static_cast<int>(QFrame::Plain));
+  rule->setForegroundRole(QPalette::Mid);
   rule->setFixedHeight(1);
   maker.shape(opening.LineObj, *rule);
   outside->addWidget(rule);
