@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QIcon>
-#include <QStyleFactory>
 
 namespace norvik::desktop {
 
@@ -17,7 +16,7 @@ Program::Program(const Options& options, Asker& asker)
   settings_ = std::make_unique<front::Settings>(*posix_, settingsFileOf(options));
 
   const QPalette system = QApplication::palette();
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(makeStyle());
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/norvik.svg")));
   QApplication::setQuitOnLastWindowClosed(false);
   const Theme theme = themeNamed(settings_->get(kWindowSection, kThemeKey, "system"));

@@ -1,5 +1,8 @@
 #include "desktop/theme.h"
 
+#include <QApplication>
+#include <QProxyStyle>
+#include <QStyleFactory>
 #include <QVariant>
 #include <QWidget>
 
@@ -43,6 +46,18 @@ QPalette paletteFrom(const Shades& shades) {
   palette.setColor(QPalette::Disabled, QPalette::Highlight, shades.line);
   return palette;
 }
+
+/// Buttons with words alone: the style's own pictures belong to another visual language.
+class PlainStyle : public QProxyStyle {
+ public:
+  PlainStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+};
 
 qreal luminance(const QColor& colour) {
   const auto part = [](float value) {
@@ -88,6 +103,10 @@ bool isDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < 128;
 }
 
+QStyle* makeStyle() {
+  return new PlainStyle;
+}
+
 QColor toColor(front::Colour colour) {
   return {static_cast<int>(colour & 0xFFU), static_cast<int>(colour >> 8U & 0xFFU),
           static_cast<int>(colour >> 16U & 0xFFU)};
@@ -98,8 +117,7 @@ QColor accentOf(const QPalette& palette) {
 }
 
 void paintText(QWidget& widget, front::Colour colour) {
-  const QPalette plain =
-      widget.parentWidget() == nullptr ? QPalette() : widget.parentWidget()->palette();
+  const QPalette plain = QApplication::palette();
   const QColor ground = plain.color(QPalette::Base);
   QColor ink;
   if (colour == front::kBlack || colour == front::kListNormal ||

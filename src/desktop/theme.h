@@ -8,7 +8,7 @@
 
 #include <string_view>
 
-class QApplication;
+class QStyle;
 class QWidget;
 
 namespace norvik::desktop {
@@ -21,6 +21,9 @@ Theme themeNamed(std::string_view name);
 /// The colours of a theme; `system` is the palette that the desktop came with, which decides
 /// between the two.
 QPalette paletteOf(Theme theme, const QPalette& system);
+
+/// The style of all widgets; who sets it owns it.
+QStyle* makeStyle();
 
 bool isDark(const QPalette& palette);
 

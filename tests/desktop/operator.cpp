@@ -18,6 +18,12 @@
 
 namespace norvik::desktop {
 
+namespace {
+
+constexpr int kReading = 400;  // milliseconds
+
+}  // namespace
+
 void giveUp(const std::string& why) {
   std::cerr << "the operator gives up: " << why << std::endl;
   std::_Exit(1);
@@ -71,6 +77,10 @@ void Operator::answer() {
              dialog->directory().path().toStdString());
     const QString path = paths_.front();
     paths_.pop_front();
+    // The dialog reads its folder in the background and then takes its proposed name once more.
+    eyes_.stop();
+    QTest::qWait(kReading);
+    eyes_.start();
     auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
     name->selectAll();
     name->insert(path);  // as pasted: the dialog would walk the folders while it is typed

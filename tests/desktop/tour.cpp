@@ -48,8 +48,11 @@ class Photographer {
   void take(const QString& name) const {
     QTest::qWait(150);
     const QRect place = program_.mainWindow().frameGeometry();
+    // Few colours make a small file, and the window has no more.
     QApplication::primaryScreen()
         ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+        .toImage()
+        .convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither)
         .save(folder_ + u'/' + name + u".png"_s, "PNG", 0);
   }
 
@@ -72,7 +75,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"figure"_s);
   hand.hover(u"TextMainTex"_s);
   camera.take(u"textures"_s);
-  hand.click(u"ListAllTexMaps"_s);
+  hand.clickItem(u"ListAllTexMaps"_s, u"tilda"_s);
 
   hand.willChoose(drive + kCharacters + u"tilda2.cr2"_s);
   hand.click(u"LabelOpenSource"_s);
@@ -131,7 +134,8 @@ int main(int count, char** arguments) {
   desktop::Operator hand(program);
 
   QTimer::singleShot(0, &application, [&] { program.start(); });
-  QTimer::singleShot(0, &application, [&] {
+  constexpr int kStarted = 300;  // milliseconds
+  QTimer::singleShot(kStarted, &application, [&] {
     program.mainWindow().activateWindow();
     if (!QTest::qWaitForWindowActive(&program.mainWindow(), 5000)) {
       desktop::giveUp("the window does not become active");

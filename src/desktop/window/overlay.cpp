@@ -22,6 +22,13 @@ void Overlay::place() {
   setGeometry(placer_(parentWidget()->rect(), sizeHint()));
 }
 
+bool Overlay::event(QEvent* event) {
+  const bool handled = QFrame::event(event);
+  // What the card holds has changed its size.
+  if (event->type() == QEvent::LayoutRequest && isVisible()) place();
+  return handled;
+}
+
 void Overlay::showEvent(QShowEvent* event) {
   place();
   raise();

@@ -18,6 +18,7 @@ class Overlay : public QFrame {
   void place();
 
  protected:
+  bool event(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
