@@ -4,7 +4,7 @@ namespace norvik::desktop {
 
 namespace {
 
-constexpr std::chrono::milliseconds kBetweenPumps{60};
+constexpr std::chrono::milliseconds kBetweenPumps{100};
 
 }  // namespace
 

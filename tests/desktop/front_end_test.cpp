@@ -124,7 +124,7 @@ TEST_F(FrontEndTest, ALongPassLetsTheWindowBreathe) {
   int lines = 0;
   while (!in.atEnd()) {
     static_cast<void>(in.line());
-    if (++lines % 1000 == 0) QTest::qSleep(70);
+    if (++lines % 1000 == 0) QTest::qSleep(110);
   }
   EXPECT_EQ(lines, 3000);
   ASSERT_GE(breaths.size(), 2U);

@@ -2,6 +2,7 @@
 //
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it.
 
 #include "desktop/operator.h"
@@ -48,11 +49,8 @@ class Photographer {
   void take(const QString& name) const {
     QTest::qWait(150);
     const QRect place = program_.mainWindow().frameGeometry();
-    // Few colours make a small file, and the window has no more.
     QApplication::primaryScreen()
         ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
-        .toImage()
-        .convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither)
         .save(folder_ + u'/' + name + u".png"_s, "PNG", 0);
   }
 
@@ -120,9 +118,31 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
 
+/// The resident memory of this process in megabytes.
+double megabytes() {
+  QFile status(u"/proc/self/status"_s);
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  const QString text = QString::fromLatin1(status.readAll());
+  constexpr double kKilo = 1024;
+  return text.section(u"VmRSS:"_s, 1).section(u"kB"_s, 0, 0).trimmed().toDouble() / kKilo;
+}
+
+void measure(desktop::Program& program, const std::string& file, qint64 started) {
+  std::cout << "start: " << started << " ms, " << megabytes() << " MB\n";
+  for (int i = 0; i < 3; ++i) {
+    QElapsedTimer clock;
+    clock.start();
+    program.frontEnd().withChosen(
+        file, [&] { program.dispatcher().raise(program.session().opening.MenuFileOpen.clicked); });
+    std::cout << "open: " << clock.elapsed() << " ms, " << megabytes() << " MB\n";
+  }
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
+  QElapsedTimer clock;
+  clock.start();
   QApplication application(count, arguments);
   const QStringList words = QApplication::arguments();
   if (words.size() < 4) return 2;
@@ -133,7 +153,12 @@ int main(int count, char** arguments) {
   desktop::Program program(options, asker);
   desktop::Operator hand(program);
 
-  QTimer::singleShot(0, &application, [&] { program.start(); });
+  qint64 started = 0;
+  QTimer::singleShot(0, &application, [&] {
+    program.start();
+    QCoreApplication::processEvents();
+    started = clock.elapsed();
+  });
   constexpr int kStarted = 300;  // milliseconds
   QTimer::singleShot(kStarted, &application, [&] {
     program.mainWindow().activateWindow();
@@ -142,6 +167,10 @@ int main(int count, char** arguments) {
     }
     const QString drive = QDir(words[2]).absolutePath();
     if (words[1] == u"copy"_s) copyMorph(hand, drive);
+    if (words[1] == u"time"_s) {
+      measure(program, words.value(4).toStdString(), started);
+      QApplication::quit();
+    }
     if (words[1] == u"pictures"_s) takePictures(program, hand, drive, words.value(4));
   });
   // The closing animation can be skipped with a key.
