@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace norvik::desktop {
 
 Windows::Windows(Dispatcher& dispatcher, front::Session& session, DesktopFrontEnd& frontEnd,
@@ -17,8 +19,22 @@ Windows::~Windows() {
 }
 
 void Windows::sync() {
-  for (front::Form* form : session_.forms()) bindings_.sync(*form);
+  for (front::Form* form : session_.forms()) {
+    bindings_.sync(*form);
+    followFocus(*form);
+  }
   main_->sync();
+}
+
+/// Gives the keys to the control that a tool has chosen since the last time.
+void Windows::followFocus(front::Form& form) {
+  front::Control* wanted = form.focus();
+  if (std::exchange(focus_[&form], wanted) == wanted || wanted == nullptr) return;
+  const auto other = others_.find(&form);
+  QWidget* window = other == others_.end() ? static_cast<QWidget*>(main_.get())
+                                           : static_cast<QWidget*>(other->second.get());
+  auto* widget = window->findChild<QWidget*>(QString::fromStdString(wanted->name()));
+  if (widget != nullptr && widget->isVisible() && !widget->hasFocus()) widget->setFocus();
 }
 
 FormWindow& Windows::windowOf(front::Form& form) {

@@ -31,6 +31,7 @@ class Windows : public Stage {
 
  private:
   void sync();
+  void followFocus(front::Form& form);
   FormWindow& windowOf(front::Form& form);
 
   Dispatcher& dispatcher_;
@@ -39,6 +40,7 @@ class Windows : public Stage {
   Maker maker_;
   std::unique_ptr<MainWindow> main_;
   std::map<front::Form*, std::unique_ptr<FormWindow>> others_;
+  std::map<front::Form*, front::Control*> focus_;  ///< as it was last seen
 };
 
 }  // namespace norvik::desktop

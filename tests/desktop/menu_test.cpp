@@ -54,6 +54,7 @@ TEST_F(MenuTest, TheMenusAboveOpenBeforeAnEntryIsChosen) {
   opening.MenuCR2Tools.opened.add([&] { seen.push_back("tools"); });
   opening.MenuBend.opened.add([&] { seen.push_back("bend"); });
   opening.MenuBendOff.clicked.add([&] { seen.push_back("off"); });
+  opening.MenuCR2Tools.setEnabled(true);
   MenuTree menus(dispatcher, bindings, opening, bar);
   menus.action(opening.MenuBendOff)->trigger();
   EXPECT_EQ(seen, (std::vector<std::string>{"tools", "bend", "off"}));

@@ -2,6 +2,7 @@
 
 #include "desktop/bind/drag.h"
 #include "desktop/words.h"
+#include "front/form.h"
 
 #include <QCoreApplication>
 #include <QDropEvent>
@@ -76,6 +77,9 @@ bool WidgetBinding::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::KeyPress:
       return keyPressed(*static_cast<QKeyEvent*>(event));
+    case QEvent::FocusIn:
+      control().form().setFocus(control());
+      return false;
     case QEvent::DragEnter:
     case QEvent::DragMove:
       return dragOver(*static_cast<QDropEvent*>(event));

@@ -53,7 +53,11 @@ void makeRecentCard(Maker& maker, front::Opening& opening, QWidget& over) {
                      rowsHeight(opening.ListMRU, over, kMost) + heading);
     return QRect(QPoint(12, 8), size.boundedTo(area.size() - QSize(24, 16)));
   };
-  makeListCard(maker, opening.ListMRU, over, place, QStringLiteral("Recent files"));
+  auto* card = makeListCard(maker, opening.ListMRU, over, place, QStringLiteral("Recent files"));
+  maker.watch({&opening.ListMRU}, [card, &opening] {
+    auto* view = card->findChild<ListView*>();
+    if (opening.ListMRU.visible() && !view->hasFocus()) view->setFocus();
+  });
 }
 
 void makeTextureCard(Maker& maker, front::Opening& opening, QWidget& over) {
