@@ -17,6 +17,7 @@ void ListBox::clear() {
   selected_.clear();
   ticked_.clear();
   index_ = kNone;
+  ++itemChanges_;
   touch();
 }
 
@@ -24,6 +25,7 @@ void ListBox::add(std::string_view item) {
   items_.emplace_back(item);
   selected_.push_back(false);
   ticked_.push_back(false);
+  ++itemChanges_;
   touch();
 }
 
@@ -34,6 +36,7 @@ void ListBox::remove(int index) {
   ticked_.erase(ticked_.begin() + index);
   if (index_ == index) index_ = kNone;
   if (index_ > index) --index_;
+  ++itemChanges_;
   touch();
 }
 

@@ -3,6 +3,7 @@
 
 #include "front/control.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,9 @@ class ListBox : public Control {
   void add(std::string_view item);
   /// Takes an item out; those behind it move up with their selection.
   void remove(int index);
+  /// Counts the changes of the items, so that a front end that draws them can tell a change of the
+  /// list from one of its selection.
+  std::uint64_t itemChanges() const { return itemChanges_; }
 
   bool multiple() const { return selection_ == Selection::multiple; }
   bool selected(int index) const;
@@ -62,6 +66,7 @@ class ListBox : public Control {
   std::vector<std::string> items_;
   std::vector<bool> selected_;
   std::vector<bool> ticked_;
+  std::uint64_t itemChanges_ = 0;
   int index_ = kNone;
   bool dragging_ = false;
 };

@@ -1,0 +1,216 @@
+#include "desktop/bind/widget_binding.h"
+
+#include "desktop/bind/drag.h"
+#include "desktop/words.h"
+#include "front/form.h"
+
+#include <QCoreApplication>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTimer>
+
+namespace norvik::desktop {
+
+namespace {
+
+front::Mouse mouseOf(const QMouseEvent& event) {
+  const QPoint place = event.position().toPoint();
+  const bool right = event.button() == Qt::RightButton;
+  return {right ? front::MouseButton::right : front::MouseButton::left, place.x(), place.y()};
+}
+
+bool isClick(const QMouseEvent& event) {
+  return event.button() == Qt::LeftButton || event.button() == Qt::RightButton;
+}
+
+}  // namespace
+
+WidgetBinding::WidgetBinding(Dispatcher& dispatcher, front::Control& control, QWidget& widget,
+                             Clicks clicks)
+    : Binding(dispatcher, control), widget_(&widget), clicks_(clicks) {
+  widget.setObjectName(QString::fromStdString(control.name()));
+  const bool takesRight = control.pressed.hasHandlers() || control.released.hasHandlers();
+  if (takesRight) widget.setContextMenuPolicy(Qt::NoContextMenu);
+  watch(widget);
+}
+
+void WidgetBinding::watch(QWidget& widget) {
+  widget.installEventFilter(this);
+  widget.setAcceptDrops(true);
+  if (control().moved.hasHandlers()) widget.setMouseTracking(true);
+}
+
+void WidgetBinding::setShower(std::function<void(bool)> shower) {
+  shower_ = std::move(shower);
+  update();
+}
+
+void WidgetBinding::refresh() {
+  if (!widget_) return;
+  widget_->setEnabled(control().enabled());
+  if (!control().tip().empty()) widget_->setToolTip(shown(control().tip()));
+  if (shower_) {
+    shower_(control().visible());
+  } else {
+    widget_->setVisible(control().visible());
+  }
+}
+
+bool WidgetBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (!widget_ || refreshing()) return QObject::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      doubleClick_ = false;
+      return mousePressed(*static_cast<QMouseEvent*>(event));
+    case QEvent::MouseButtonRelease: {
+      // The second release of a double click belongs to it.
+      if (std::exchange(doubleClick_, false)) return false;
+      return mouseReleased(*static_cast<QMouseEvent*>(event));
+    }
+    case QEvent::MouseButtonDblClick:
+      doubleClick_ = true;
+      return mouseDoubleClicked(*static_cast<QMouseEvent*>(event));
+    case QEvent::MouseMove:
+      mouseMoved(*static_cast<QMouseEvent*>(event));
+      return false;
+    case QEvent::KeyPress:
+      return keyPressed(*static_cast<QKeyEvent*>(event));
+    case QEvent::FocusIn:
+      control().form().setFocus(control());
+      return false;
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+      return dragOver(*static_cast<QDropEvent*>(event));
+    case QEvent::Drop:
+      return dropped(*static_cast<QDropEvent*>(event));
+    default:
+      return QObject::eventFilter(watched, event);
+  }
+}
+
+bool WidgetBinding::mousePressed(const QMouseEvent& event) {
+  if (isClick(event)) raise(control().pressed, mouseOf(event));
+  return false;
+}
+
+bool WidgetBinding::mouseReleased(const QMouseEvent& event) {
+  if (!isClick(event)) return false;
+  const bool inside = widget_->rect().contains(event.position().toPoint());
+  const bool click = clicks_ == Clicks::fromMouse && event.button() == Qt::LeftButton && inside;
+  if (clicks_ == Clicks::fromMouse && !inside) return false;
+  raise(control().released, mouseOf(event));
+  if (click) raise(control().clicked);
+  return false;
+}
+
+bool WidgetBinding::mouseDoubleClicked(const QMouseEvent& event) {
+  if (event.button() == Qt::LeftButton) raise(control().doubleClicked);
+  return false;
+}
+
+void WidgetBinding::mouseMoved(const QMouseEvent& event) {
+  if (!control().moved.hasHandlers()) return;
+  const QPoint place = event.position().toPoint();
+  const bool right = (event.buttons() & Qt::RightButton) != 0;
+  raise(control().moved, front::Mouse{right ? front::MouseButton::right : front::MouseButton::left,
+                                      place.x(), place.y()});
+}
+
+void WidgetBinding::clickByKey() {
+  raise(control().pressed, front::Mouse{});
+  raise(control().released, front::Mouse{});
+  raise(control().clicked);
+}
+
+bool WidgetBinding::keyPressed(const QKeyEvent& event) {
+  if (control().key.hasHandlers()) {
+    const std::string name = keyName(event);
+    if (!name.empty()) raise(control().key, name);
+    if (name == "Enter" || name == "Escape") return true;
+  }
+  if (clicks_ != Clicks::fromMouse) return false;
+  const auto key = event.key();
+  if (key == Qt::Key_Space && event.modifiers() == Qt::NoModifier) {
+    clickByKey();
+    return true;
+  }
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+    // The double click of the keyboard, where there is one.
+    if (control().doubleClicked.hasHandlers()) {
+      raise(control().doubleClicked);
+    } else {
+      clickByKey();
+    }
+    return true;
+  }
+  const bool menuKey =
+      key == Qt::Key_Menu || (key == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
+  if (menuKey) {
+    raise(control().pressed, front::Mouse{front::MouseButton::right, 0, 0});
+    raise(control().released, front::Mouse{front::MouseButton::right, 0, 0});
+    return true;
+  }
+  return false;
+}
+
+bool WidgetBinding::dragOver(QDropEvent& event) const {
+  const QMimeData& data = *event.mimeData();
+  const bool wanted = carriesControl(data) && control().dropped.hasHandlers();
+  const bool file = carriesFile(data) && control().fileDropped.hasHandlers();
+  if (!wanted && !file) return false;
+  event.acceptProposedAction();
+  return true;
+}
+
+bool WidgetBinding::dropped(const QDropEvent& event) {
+  const QMimeData& data = *event.mimeData();
+  const front::Session& session = dispatcher().session();
+  // The drag is over first: a handler may put up a box.
+  if (front::Control* source = draggedControl(data, session); source != nullptr) {
+    if (!control().dropped.hasHandlers()) return false;
+    QTimer::singleShot(0, this, [this, source] { raise(control().dropped, *source); });
+    return true;
+  }
+  const std::string file = droppedFile(data, session);
+  if (file.empty() || !control().fileDropped.hasHandlers()) return false;
+  QTimer::singleShot(0, this, [this, file] { raise(control().fileDropped, file); });
+  return true;
+}
+
+std::string keyName(const QKeyEvent& event) {
+  std::string name;
+  switch (event.key()) {
+    case Qt::Key_Control:
+    case Qt::Key_Shift:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+      return {};
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      name = "Enter";
+      break;
+    case Qt::Key_Escape:
+      name = "Escape";
+      break;
+    case Qt::Key_Space:
+      name = "Space";
+      break;
+    case Qt::Key_Delete:
+      name = "Delete";
+      break;
+    default:
+      if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12) {
+        name = "F" + std::to_string(event.key() - Qt::Key_F1 + 1);
+      } else if (event.modifiers().testFlag(Qt::ControlModifier)) {
+        name = QString(QChar(static_cast<char16_t>(event.key()))).toLower().toStdString();
+      } else {
+        return typed(event.text());
+      }
+  }
+  return event.modifiers().testFlag(Qt::ControlModifier) ? "Ctrl+" + name : name;
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,213 @@
+#include "desktop/desktop_front_end.h"
+
+#include "desktop/fetcher.h"
+#include "desktop/launcher.h"
+#include "desktop/printing.h"
+#include "desktop/words.h"
+#include "front/form.h"
+#include "text/columns.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QScreen>
+#include <QTimer>
+
+namespace norvik::desktop {
+
+namespace {
+
+constexpr float kTwipsPerPixel = 15;
+
+/// The arrow again while the operator is asked something in the middle of a pass.
+class ArrowMeanwhile {
+ public:
+  explicit ArrowMeanwhile(bool hourglass) : hourglass_(hourglass) {
+    if (hourglass_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  ArrowMeanwhile(const ArrowMeanwhile&) = delete;
+  ArrowMeanwhile& operator=(const ArrowMeanwhile&) = delete;
+  ~ArrowMeanwhile() {
+    if (hourglass_) QApplication::restoreOverrideCursor();
+  }
+
+ private:
+  bool hourglass_;
+};
+
+}  // namespace
+
+DesktopFrontEnd::DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk)
+    : dispatcher_(dispatcher), asker_(asker), disk_(disk) {}
+
+DesktopFrontEnd::~DesktopFrontEnd() = default;
+
+void DesktopFrontEnd::withChosen(const std::string& path, const std::function<void()>& act) {
+  chosen_ = path;
+  act();
+  chosen_.reset();
+}
+
+front::Answer DesktopFrontEnd::messageBox(std::string_view text, std::string_view title,
+                                          int style) {
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  return asker_.box(shown(title), shownMessage(text), style);
+}
+
+QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
+  const bool there = !folder.empty() && disk_.folderExists(folder);
+  return hostName(disk_.hostPath(there ? folder : disk_.currentFolder()));
+}
+
+/// The proposed name for the window's dialog: a whole path if there is one, else the name alone.
+QString DesktopFrontEnd::proposedName(const std::string& file) const {
+  if (!text::holds(file, "\\")) return shown(file);
+  QString name;
+  text::ignoringErrors([&] { name = hostName(disk_.hostPath(file)); });
+  return name;
+}
+
+std::optional<std::string> DesktopFrontEnd::fileDialog(const front::FileDialog& dialog) {
+  using Kind = front::FileDialog::Kind;
+  dispatcher_.sync();
+  if (chosen_ && dialog.kind == Kind::open) return std::exchange(chosen_, std::nullopt);
+  const ArrowMeanwhile arrow(hourglass_);
+  const auto answer = asker_.file({.save = dialog.kind == Kind::save,
+                                   .title = shown(dialog.title),
+                                   .filter = windowFilter(dialog.filter),
+                                   .folder = hostFolder(dialog.folder),
+                                   .name = proposedName(dialog.file)});
+  if (!answer) return std::nullopt;
+  return disk_.systemPath(hostBytes(*answer));
+}
+
+std::optional<front::Colour> DesktopFrontEnd::colourDialog(front::Colour initial) {
+  const ArrowMeanwhile arrow(hourglass_);
+  return asker_.colour(initial);
+}
+
+QPrinter& DesktopFrontEnd::printer() {
+  // Made when it is first needed: looking for printers takes time.
+  if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  return *printer_;
+}
+
+bool DesktopFrontEnd::printerDialog() {
+  const ArrowMeanwhile arrow(hourglass_);
+  return asker_.printer(printer());
+}
+
+void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string>& lines) {
+  QStringList page;
+  for (const std::string& line : lines) page << shown(line);
+  printLines(printer(), shown(font), page);
+}
+
+void DesktopFrontEnd::setHourglass(front::Form&, bool on) {
+  if (on == hourglass_) return;
+  hourglass_ = on;
+  if (on) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+  if (stage_ != nullptr) stage_->setBusy(on);
+}
+
+void DesktopFrontEnd::beep() {
+  QApplication::beep();
+}
+
+void DesktopFrontEnd::pumpEvents() {
+  dispatcher_.sync();
+  const Dispatcher::Door door(dispatcher_);
+  QCoreApplication::processEvents();
+}
+
+void DesktopFrontEnd::waitForOperator() {
+  dispatcher_.sync();
+  const Dispatcher::Door door(dispatcher_);
+  const std::uint64_t before = dispatcher_.delivered();
+  waiting_ = true;
+  while (!stopped_ && dispatcher_.delivered() == before) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+  waiting_ = false;
+  if (std::exchange(stopped_, false)) throw front::ToolStopped{};
+}
+
+void DesktopFrontEnd::show(front::Form& form) {
+  stage_->show(form, false);
+}
+
+void DesktopFrontEnd::showModal(front::Form& form) {
+  form.setLoaded(true);
+  const ArrowMeanwhile arrow(hourglass_);
+  dispatcher_.sync();
+  stage_->show(form, true);
+  const Dispatcher::Door door(dispatcher_);
+  while (form.loaded()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void DesktopFrontEnd::unloaded(front::Form& form) {
+  stage_->close(form);
+}
+
+front::Screen DesktopFrontEnd::screen() const {
+  const QSize size = QApplication::primaryScreen()->size();
+  return {static_cast<float>(size.width()) * kTwipsPerPixel,
+          static_cast<float>(size.height()) * kTwipsPerPixel};
+}
+
+bool DesktopFrontEnd::drawTile(front::Form&, int left, int top) {
+  dispatcher_.sync();
+  return stage_->drawTile(left, top);
+}
+
+void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
+                                   std::string_view folder) {
+  openWithDesktop(disk_, target, folder);
+}
+
+void DesktopFrontEnd::run(std::string_view commandLine) {
+  startCommandLine(disk_, commandLine);
+}
+
+void DesktopFrontEnd::playSound(std::string_view path) {
+  if (disk_.exists(path)) sound_.play(hostName(disk_.hostPath(path)));
+}
+
+front::Fetched DesktopFrontEnd::fetch(std::string_view address, std::string_view path) {
+  return fetchInto(disk_, address, path);
+}
+
+std::string DesktopFrontEnd::now() const {
+  return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString();
+}
+
+void DesktopFrontEnd::runtimeError(const text::FileError& error) {
+  messageBox("Run-time error '" + std::to_string(static_cast<int>(error.number())) +
+                 "': " + std::string{error.text()},
+             "Norvik", front::kCritical);
+}
+
+void DesktopFrontEnd::endProcess() {
+  QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+}
+
+QString windowFilter(std::string_view filter) {
+  const QStringList parts = shown(filter).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+  QStringList kinds;
+  for (int i = 0; i + 1 < parts.size(); i += 2) {
+    QString patterns = parts[i + 1];
+    patterns.replace(QLatin1Char(';'), QLatin1Char(' '));
+    patterns.replace(QStringLiteral("*.*"), QStringLiteral("*"));
+    QString words = parts[i];
+    if (const auto bracket = words.indexOf(QLatin1Char('(')); bracket > 0) words.truncate(bracket);
+    kinds << words.trimmed() + QStringLiteral(" (") + patterns + QLatin1Char(')');
+  }
+  return kinds.join(QStringLiteral(";;"));
+}
+
+}  // namespace norvik::desktop

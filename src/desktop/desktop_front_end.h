@@ -1,0 +1,91 @@
+#pragma once
+// The front end with a window.
+
+#include "desktop/asker.h"
+#include "desktop/dispatcher.h"
+#include "desktop/sound.h"
+#include "front/front_end.h"
+#include "text/disk.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace norvik::desktop {
+
+/// The windows of the program, as the front end needs them.
+class Stage {
+ public:
+  virtual ~Stage() = default;
+  virtual void show(front::Form& form, bool modal) = 0;
+  virtual void close(front::Form& form) = 0;
+  virtual void setBusy(bool busy) = 0;
+  /// Draws the closing tile at a place of the main form's own pixels; false when the operator has
+  /// seen enough.
+  virtual bool drawTile(int left, int top) = 0;
+};
+
+class DesktopFrontEnd : public front::FrontEnd {
+ public:
+  DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk);
+  ~DesktopFrontEnd() override;
+
+  void setStage(Stage& stage) { stage_ = &stage; }
+
+  /// Does what ends in an open dialog, and answers the dialog with a path: a file that is dropped
+  /// on the window takes the way of a chosen one.
+  void withChosen(const std::string& path, const std::function<void()>& act);
+
+  /// Ends the waiting of a tool that polls; it stops there. For a window that closes.
+  void stopWaiting() { stopped_ = true; }
+  bool waiting() const { return waiting_; }
+
+  front::Answer messageBox(std::string_view text, std::string_view title, int style) override;
+  std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
+  std::optional<front::Colour> colourDialog(front::Colour initial) override;
+  bool printerDialog() override;
+  void print(std::string_view font, const std::vector<std::string>& lines) override;
+  void setHourglass(front::Form& form, bool on) override;
+  void beep() override;
+  void pumpEvents() override;
+  void waitForOperator() override;
+  void show(front::Form& form) override;
+  void showModal(front::Form& form) override;
+  void unloaded(front::Form& form) override;
+  front::Screen screen() const override;
+  bool drawTile(front::Form& form, int left, int top) override;
+  int tileWidth() const override { return kTile; }
+  int tileHeight() const override { return kTile; }
+  void openDocument(std::string_view verb, std::string_view target,
+                    std::string_view folder) override;
+  void run(std::string_view commandLine) override;
+  void playSound(std::string_view path) override;
+  std::string systemFolder() const override { return "C:\\WINDOWS"; }
+  front::Fetched fetch(std::string_view address, std::string_view path) override;
+  std::string now() const override;
+  void runtimeError(const text::FileError& error) override;
+  void endProcess() override;
+
+ private:
+  static constexpr int kTile = 64;
+
+  QString hostFolder(const std::string& folder) const;
+  QString proposedName(const std::string& file) const;
+  QPrinter& printer();
+
+  Dispatcher& dispatcher_;
+  Asker& asker_;
+  text::Disk& disk_;
+  Stage* stage_ = nullptr;
+  Sound sound_;
+  std::unique_ptr<QPrinter> printer_;
+  std::optional<std::string> chosen_;
+  bool hourglass_ = false;
+  bool waiting_ = false;
+  bool stopped_ = false;
+};
+
+/// A dialog's filter, "Figures|*.cr2;*.pz3", in the window's form.
+QString windowFilter(std::string_view filter);
+
+}  // namespace norvik::desktop

@@ -1,0 +1,15 @@
+#include "desktop/dispatcher.h"
+
+namespace norvik::desktop {
+
+bool Dispatcher::run(const std::function<void()>& handler) {
+  if (!open()) return false;
+  open_ = false;
+  ++delivered_;
+  session_->deliver(handler);
+  open_ = true;
+  sync();
+  return true;
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,79 @@
+#include "desktop/drives.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+
+namespace norvik::desktop {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A folder of the user: where a variable says, or below the home.
+fs::path userFolder(const char* variable, const char* belowHome) {
+  if (const char* named = std::getenv(variable); named != nullptr && *named == '/') return named;
+  const char* home = std::getenv("HOME");
+  return fs::path{home == nullptr ? "/tmp" : home} / belowHome;
+}
+
+fs::path driveC() {
+  std::error_code ignored;
+  const fs::path prefix = userFolder("WINEPREFIX", ".wine") / "drive_c";
+  if (fs::is_directory(prefix, ignored)) return prefix;
+  const fs::path own = userFolder("XDG_DATA_HOME", ".local/share") / "norvik" / "drive_c";
+  fs::create_directories(own, ignored);
+  return own;
+}
+
+void orBadOption(const std::string& option, const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const text::FileError& error) {
+    throw BadOption{option + ": " + std::string{error.text()}};
+  }
+}
+
+bool names(const Options& options, char letter) {
+  for (const auto& [drive, folder] : options.drives) {
+    if ((drive & ~0x20) == letter) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+std::string programFolderOf(const Options& options) {
+  std::string folder = options.program.empty() ? "C:\\Norvik" : options.program;
+  while (folder.ends_with('\\')) folder.pop_back();
+  return folder;
+}
+
+void setUpDrives(text::Disk& disk, const Options& options, const std::string& programFolder) {
+  disk.mount('Z', "/");
+  if (!names(options, 'C')) disk.mount('C', driveC().string());
+  for (const auto& [letter, folder] : options.drives) disk.mount(letter, folder);
+  orBadOption("the program folder " + programFolder, [&] { disk.makeFolders(programFolder); });
+
+  std::error_code error;
+  const auto current = fs::current_path(error);
+  const auto folder = error ? std::nullopt : disk.systemPath(current.string());
+  if (folder) text::ignoringErrors([&] { disk.changeFolder(*folder); });
+}
+
+std::string settingsFileOf(const Options& options) {
+  const fs::path file = options.settings.empty()
+                            ? userFolder("XDG_CONFIG_HOME", ".config") / "norvik" / "norvik.ini"
+                            : fs::absolute(options.settings);
+  std::error_code ignored;
+  fs::create_directories(file.parent_path(), ignored);
+  return file.string();
+}
+
+std::string systemPathOf(const text::Disk& disk, const std::string& hostPath) {
+  std::error_code error;
+  const auto whole = fs::absolute(hostPath, error).lexically_normal();
+  return error ? hostPath : disk.systemPath(whole.string()).value_or(hostPath);
+}
+
+}  // namespace norvik::desktop

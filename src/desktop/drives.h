@@ -1,0 +1,26 @@
+#pragma once
+// The drives of the figure files' system on this one.
+
+#include "desktop/options.h"
+#include "text/disk.h"
+
+#include <string>
+
+namespace norvik::desktop {
+
+/// Mounts Z: on the root, C: on the Wine prefix's drive (WINEPREFIX, else ~/.wine) or, where there
+/// is none, on a folder of the user's data, and then what the options say; makes the program folder
+/// and enters the host's current folder. Throws BadOption for folders that cannot be used.
+void setUpDrives(text::Disk& disk, const Options& options, const std::string& programFolder);
+
+/// The program folder without a backslash at its end.
+std::string programFolderOf(const Options& options);
+
+/// The settings file, with its folder made.
+std::string settingsFileOf(const Options& options);
+
+/// The system path of a host path that may begin in the current folder; the path as it stands when
+/// no drive holds it.
+std::string systemPathOf(const text::Disk& disk, const std::string& hostPath);
+
+}  // namespace norvik::desktop

@@ -1,0 +1,66 @@
+#include "desktop/launcher.h"
+
+#include "desktop/words.h"
+#include "text/columns.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace norvik::desktop {
+
+namespace {
+
+constexpr std::string_view kEditor = "notepad.exe";
+
+/// The length of the program's name at the head of a command line: up to the last blank before
+/// which a file of that name exists, else the first word.
+std::size_t programLength(const text::Disk& disk, std::string_view line) {
+  for (std::size_t end = line.size(); end != std::string_view::npos && end > 0;
+       end = line.find_last_of(' ', end - 1)) {
+    if (disk.exists(line.substr(0, end))) return end;
+  }
+  return std::min(line.find(' '), line.size());
+}
+
+QUrl fileAddress(const text::Disk& disk, std::string_view path) {
+  return QUrl::fromLocalFile(hostName(disk.hostPath(path)));
+}
+
+bool isAddress(std::string_view target) {
+  return text::holds(target, "://");
+}
+
+}  // namespace
+
+void startCommandLine(const text::Disk& disk, std::string_view commandLine) {
+  const std::string_view program = commandLine.substr(0, programLength(disk, commandLine));
+  const std::string_view rest = text::trimmed(commandLine.substr(program.size()));
+  if (text::equalIgnoringCase(program, kEditor)) {
+    if (!disk.exists(rest)) throw text::FileError(text::ErrorNumber::fileNotFound);
+    QDesktopServices::openUrl(fileAddress(disk, rest));
+    return;
+  }
+  const QString loader = QStandardPaths::findExecutable(QStringLiteral("wine"));
+  if (!disk.exists(program) || loader.isEmpty()) {
+    throw text::FileError(text::ErrorNumber::fileNotFound);
+  }
+  const QFileInfo file(hostName(disk.hostPath(program)));
+  QStringList arguments{file.filePath()};
+  if (!rest.empty()) arguments << shown(rest);
+  QProcess::startDetached(loader, arguments, file.path());
+}
+
+void openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder) {
+  if (isAddress(target)) {
+    QDesktopServices::openUrl(QUrl(shown(target)));
+    return;
+  }
+  std::string path{target};
+  if (!disk.exists(path) && !folder.empty()) path = std::string{folder} + "\\" + path;
+  QDesktopServices::openUrl(fileAddress(disk, path));
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,18 @@
+#pragma once
+// Programs and documents outside.
+
+#include "text/disk.h"
+
+#include <string_view>
+
+namespace norvik::desktop {
+
+/// Starts a command line of the figure files' system: a program of a drive through the program
+/// loader for that system, the text editor through the desktop's own. Throws FileError 53 when the
+/// program is not there or nothing can start it.
+void startCommandLine(const text::Disk& disk, std::string_view commandLine);
+
+/// Opens a page or a document with what the desktop uses for it.
+void openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder);
+
+}  // namespace norvik::desktop

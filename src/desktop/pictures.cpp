@@ -1,0 +1,47 @@
+#include "desktop/pictures.h"
+
+#include <algorithm>
+#include <array>
+
+namespace norvik::desktop {
+
+namespace {
+
+constexpr std::array kLooks = std::to_array<PictureLook>({
+    {"LabelOpenSource", "source", "Open", "Open a source figure"},
+    {"PictureCopyToDest", "copy", "Copy", "Copy the chosen morph into the destination"},
+    {"PictureViewChannels", "channels", "Channels", "Show the channels of one body part"},
+    {"PictureJoints", "joints", "Joints", "Transfer joint parameters"},
+    {"PictureTrash", "trash", "Trash", "Arm the trash, then drag body parts or channels to it"},
+    {"PictureEMC", "erc", "Remote", "Enhanced remote control"},
+    {"PictureEditor", "editor", "Editor", "Manual editor"},
+    {"PictureChangeRatio", "ratio", "Ratio", "Change the ratio of a remote control"},
+    {"PictureRenameMorph", "rename", "Rename", "Rename a morph or a body part"},
+    {"PictureOBJView", "view", "View", "View the geometry"},
+    {"PictureOBJExtract", "extract", "Extract", "Export the geometry that this file holds"},
+    {"PictureScaleObj", "scale", "Scale", "Scale the mesh"},
+    {"PictureMash", "mash", "Condense", "Condense the mesh or a morph"},
+    {"PictureMirror", "mirror", "Mirror", "Copy a morph to the other side"},
+    {"PictureMapViewer", "maps", "Maps", "View the maps"},
+    {"PictureInstallCR2", "install", "Install", "Install the listed files"},
+    {"PictureCR2InstallCancel", "cancel", "Cancel", "Leave the installer"},
+    {"PicturePrintCR2Files", "print", "Print", "Print the list of files"},
+    {"PictureChannelReorderDone", "done", "Done", "Write the channels in their new order"},
+    {"PictureBrktsOK", "brackets_ok", "The brackets match", "Click to go on"},
+    {"PictureBrktLeft", "bracket_left", "A left bracket is missing", "Click to go on"},
+    {"PictureBrktRight", "bracket_right", "A right bracket is missing", "Click to go on"},
+    {"PicturePushPin", "pin", "Click to go on", "Click the picture to go on"},
+    {"PictureMatColor", "", "Colour", "Colour of the chosen material: double-click to change it"},
+    {"PictureMatHiLite", "", "Highlight",
+     "Highlight of the chosen material: double-click to change it"},
+});
+
+}  // namespace
+
+const PictureLook* lookOf(std::string_view control) {
+  const auto* const found = std::find_if(kLooks.begin(), kLooks.end(),
+                                         [&](const auto& look) { return look.control == control; });
+  return found == kLooks.end() ? nullptr : found;
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,12 @@
+#pragma once
+// Lines on paper, or in a PDF.
+
+#include <QPrinter>
+#include <QStringList>
+
+namespace norvik::desktop {
+
+/// Prints lines in a font of fixed or other width, page by page, each page with its number.
+void printLines(QPrinter& printer, const QString& font, const QStringList& lines);
+
+}  // namespace norvik::desktop

@@ -1,0 +1,42 @@
+#include "desktop/program.h"
+
+#include "desktop/drives.h"
+#include "desktop/theme.h"
+#include "desktop/window/place.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace norvik::desktop {
+
+Program::Program(const Options& options, Asker& asker)
+    : posix_(text::makePosixHost()), host_(*posix_), disk_(host_) {
+  const std::string programFolder = programFolderOf(options);
+  setUpDrives(disk_, options, programFolder);
+  settings_ = std::make_unique<front::Settings>(*posix_, settingsFileOf(options));
+
+  const QPalette system = QApplication::palette();
+  QApplication::setStyle(makeStyle());
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/norvik.svg")));
+  QApplication::setQuitOnLastWindowClosed(false);
+  const Theme theme = themeNamed(settings_->get(kWindowSection, kThemeKey, "system"));
+  QApplication::setPalette(paletteOf(theme, system));
+
+  frontEnd_ = std::make_unique<DesktopFrontEnd>(dispatcher_, asker, disk_);
+  const std::string file = options.file.empty() ? std::string{} : systemPathOf(disk_, options.file);
+  workbench_ =
+      std::make_unique<workbench::Workbench>(*frontEnd_, disk_, *settings_, programFolder, file);
+  dispatcher_.attach(workbench_->session());
+  windows_ = std::make_unique<Windows>(dispatcher_, workbench_->session(), *frontEnd_, system);
+  host_.setPump([this](const PumpingHost::Progress& progress) {
+    windows_->breathe(progress.position, progress.size);
+  });
+}
+
+Program::~Program() = default;
+
+void Program::start() {
+  dispatcher_.run([this] { workbench_->start(); });
+}
+
+}  // namespace norvik::desktop

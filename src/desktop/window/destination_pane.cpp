@@ -1,0 +1,105 @@
+#include "desktop/window/headings.h"
+#include "desktop/window/panes.h"
+
+#include <QAbstractButton>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace norvik::desktop {
+
+namespace {
+
+QWidget* makeParts(Maker& maker, front::Opening& opening, QWidget& parent) {
+  auto* side = new QWidget(&parent);
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto& heading = maker.label(opening.LabelBodyParts, *side);
+  makeHeading(heading);
+  column->addWidget(&heading);
+  auto& actors = maker.list(opening.ListActors, *side);
+  actors.setAccessibleName(QStringLiteral("Body parts"));
+  column->addWidget(&actors, 1);
+  for (front::ListBox* list : {&opening.ListAltGeomActors, &opening.ListboxListCR2Files}) {
+    column->addWidget(&maker.list(*list, *side), 1);
+  }
+  maker.showWhileAny(*side, {&opening.LabelBodyParts, &opening.ListActors,
+                             &opening.ListAltGeomActors, &opening.ListboxListCR2Files});
+  return side;
+}
+
+QWidget* makeMaterials(Maker& maker, front::Opening& opening, QWidget& parent) {
+  auto* side = new QWidget(&parent);
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto& heading = maker.label(opening.LabelMaterials, *side);
+  makeHeading(heading);
+  column->addWidget(&heading);
+  auto& materials = maker.list(opening.ListMaterials, *side);
+  materials.setAccessibleName(QStringLiteral("Materials"));
+  column->addWidget(&materials, 1);
+  for (front::ListBox* list : {&opening.ListMATColors, &opening.ListMatHiLite,
+                               &opening.ListAltGeomNames, &opening.ListOBJExtract}) {
+    column->addWidget(&maker.list(*list, *side), 1);
+  }
+  auto* swatches = new QHBoxLayout;
+  swatches->addWidget(&maker.swatch(opening.PictureMatColor, *side));
+  swatches->addWidget(&maker.swatch(opening.PictureMatHiLite, *side));
+  swatches->addStretch();
+  column->addLayout(swatches);
+  maker.showWhileAny(*side,
+                     {&opening.LabelMaterials, &opening.ListMaterials, &opening.ListMATColors,
+                      &opening.ListMatHiLite, &opening.ListAltGeomNames, &opening.ListOBJExtract,
+                      &opening.PictureMatColor, &opening.PictureMatHiLite});
+  return side;
+}
+
+/// The buttons of the installer, with the list that they act on.
+QWidget* makeInstaller(Maker& maker, front::Opening& opening, QWidget& parent) {
+  constexpr int kIcon = 24;
+  auto* row = new QWidget(&parent);
+  auto* line = new QHBoxLayout(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  for (front::PictureButton* picture :
+       {&opening.PictureInstallCR2, &opening.PictureCR2InstallCancel,
+        &opening.PicturePrintCR2Files}) {
+    line->addWidget(&maker.picture(*picture, *row, kIcon));
+  }
+  line->addStretch();
+  maker.showWhileAny(*row, {&opening.PictureInstallCR2, &opening.PictureCR2InstallCancel,
+                            &opening.PicturePrintCR2Files});
+  return row;
+}
+
+}  // namespace
+
+QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& parent) {
+  auto* pane = new QWidget(&parent);
+  pane->setObjectName(QStringLiteral("DestinationPane"));
+  auto* column = new QVBoxLayout(pane);
+  column->setContentsMargins(kPaneMargin, kPaneMargin, kPaneMargin, kPaneMargin);
+
+  auto& name = maker.pathLabel(opening.LabelFileName, *pane);
+  makeFileHeading(name, QStringLiteral("Destination file"));
+  column->addWidget(&name);
+
+  auto* lists = new QSplitter(Qt::Horizontal, pane);
+  lists->setObjectName(QStringLiteral("DestinationLists"));
+  lists->setChildrenCollapsible(false);
+  lists->addWidget(makeParts(maker, opening, *lists));
+  lists->addWidget(makeMaterials(maker, opening, *lists));
+  lists->setSizes({300, 260});
+  column->addWidget(lists, 1);
+  column->addWidget(makeInstaller(maker, opening, *pane));
+  maker.showWhileAny(
+      *pane, {&opening.LabelFileName, &opening.LabelBodyParts, &opening.ListActors,
+              &opening.LabelMaterials, &opening.ListMaterials, &opening.ListAltGeomActors,
+              &opening.ListboxListCR2Files, &opening.ListAltGeomNames, &opening.ListOBJExtract,
+              &opening.PictureInstallCR2, &opening.PictureCR2InstallCancel,
+              &opening.PicturePrintCR2Files});
+  return pane;
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,85 @@
+#include "desktop/window/headings.h"
+#include "desktop/window/tool_strip.h"
+
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+
+namespace norvik::desktop {
+
+namespace {
+
+class Row {
+ public:
+  Row(Maker& maker, QWidget& parent) : maker_(maker), widget_(new QWidget(&parent)) {
+    line_ = new QHBoxLayout(widget_);
+    line_->setContentsMargins(kPaneMargin, 4, kPaneMargin, 0);
+  }
+
+  /// An entry with a word in front of it.
+  void add(front::TextBox& box, const char* word, int width) {
+    auto* label = new QLabel(QString::fromLatin1(word), widget_);
+    auto& edit = maker_.line(box, *widget_);
+    edit.setFixedWidth(width);
+    edit.setAccessibleName(label->text());
+    label->setBuddy(&edit);
+    line_->addWidget(label);
+    line_->addWidget(&edit);
+    maker_.watch({&box}, [label, &box, &edit] {
+      const bool appears = box.visible() && label->isHidden();
+      label->setVisible(box.visible());
+      // What a tool asks for is what the operator types next.
+      if (appears) edit.setFocus(Qt::OtherFocusReason);
+    });
+  }
+
+  void add(front::Control& control) { line_->addWidget(maker_.make(control, *widget_)); }
+
+  void add(front::Frame& frame, std::initializer_list<front::OptionButton*> options) {
+    auto& group = maker_.frame(frame, *widget_);
+    group.setFlat(true);
+    auto* inside = new QHBoxLayout(&group);
+    inside->setContentsMargins(0, 0, 0, 0);
+    for (front::OptionButton* option : options) inside->addWidget(maker_.make(*option, group));
+    line_->addWidget(&group);
+  }
+
+  QWidget* finish() {
+    line_->addStretch();
+    return widget_;
+  }
+
+ private:
+  Maker& maker_;
+  QWidget* widget_;
+  QHBoxLayout* line_;
+};
+
+}  // namespace
+
+QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
+  constexpr int kName = 260;
+  constexpr int kNumber = 90;
+  Row row(maker, parent);
+  row.add(opening.TextMorphRename, "New name", kName);
+  row.add(opening.OptionChannelRename);
+  row.add(opening.OptionBodyPartRename);
+  row.add(opening.TextERCUnique, "Unique name", kName);
+  row.add(opening.TextTrackingSpeed, "Tracking speed", kNumber);
+  row.add(opening.TextOBJScale, "Scale", kNumber);
+  row.add(opening.SliderOBJScale);
+  row.add(opening.CheckOBJBatch);
+  row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
+  row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
+  QWidget* widget = row.finish();
+  maker.showWhileAny(
+      *widget, {&opening.TextMorphRename, &opening.OptionChannelRename,
+                &opening.OptionBodyPartRename, &opening.TextERCUnique, &opening.TextTrackingSpeed,
+                &opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
+                &opening.FrameMash, &opening.FrameExtractObj});
+  return widget;
+}
+
+}  // namespace norvik::desktop

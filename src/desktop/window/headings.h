@@ -1,0 +1,18 @@
+#pragma once
+// The looks of headings and labels.
+
+#include <QString>
+
+class QLabel;
+
+namespace norvik::desktop {
+
+inline constexpr int kPaneMargin = 8;
+
+/// The heading of a list.
+void makeHeading(QLabel& label);
+
+/// The name of a file at the head of a pane: it gives way to the width of the pane.
+void makeFileHeading(QLabel& label, const QString& accessibleName);
+
+}  // namespace norvik::desktop

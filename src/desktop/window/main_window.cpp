@@ -1,0 +1,215 @@
+#include "desktop/window/main_window.h"
+
+#include "desktop/bind/drag.h"
+#include "desktop/window/overlays.h"
+#include "desktop/window/panes.h"
+#include "desktop/window/place.h"
+#include "desktop/window/recent_menu.h"
+#include "desktop/window/splash_page.h"
+#include "desktop/window/tool_strip.h"
+#include "desktop/window/view_menu.h"
+#include "desktop/words.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace norvik::desktop {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+
+}  // namespace
+
+MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& frontEnd,
+                       const QPalette& system)
+    : maker_(maker),
+      session_(session),
+      opening_(session.opening),
+      frontEnd_(frontEnd),
+      system_(system) {
+  setObjectName(QString::fromStdString(opening_.name()));
+  setAcceptDrops(true);
+  setMinimumSize(720, 480);
+  makeMenus();
+  addToolBar(makeToolStrip(maker_, opening_, *this));
+  status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
+  makeCentre();
+  bindTheRest();
+  resize(1080, 760);
+  sync();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makeMenus() {
+  menus_ = std::make_unique<MenuTree>(maker_.dispatcher(), maker_.bindings(), opening_, *menuBar());
+  addRecentMenu(*menus_, maker_.dispatcher(), opening_);
+  menus_->action(opening_.MenuFileOpen)->setShortcut(QKeySequence::Open);
+  menus_->action(opening_.MenuFileSave)->setShortcut(QKeySequence::Save);
+  menus_->action(opening_.MenuFileSaveAs)
+      ->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  menus_->action(opening_.MenuFileExit)->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  menus_->action(opening_.menuScreenRes)->setShortcut(QKeySequence(Qt::Key_F11));
+  menus_->action(opening_.MenuHelp)->setShortcut(QKeySequence(Qt::Key_F1));
+  const Theme present = themeNamed(session_.settings.get(kWindowSection, kThemeKey, "system"));
+  addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+}
+
+void MainWindow::makeCentre() {
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(makeEntryRow(maker_, opening_, *centre));
+
+  auto* pages = new QStackedWidget(centre);
+  pages->addWidget(makeSplashPage(opening_, *pages));
+  auto* work = new QWidget(pages);
+  auto* workColumn = new QVBoxLayout(work);
+  workColumn->setContentsMargins(0, 0, 0, 0);
+  workColumn->setSpacing(0);
+  auto* panes = new QSplitter(Qt::Horizontal, work);
+  panes->setObjectName(QStringLiteral("Panes"));
+  panes->setChildrenCollapsible(false);
+  panes->addWidget(makeDestinationPane(maker_, opening_, *panes));
+  sourcePane_ = makeSourcePane(maker_, opening_, *panes);
+  panes->addWidget(sourcePane_);
+  panes->setSizes({560, 480});
+  workColumn->addWidget(panes, 1);
+  workColumn->addWidget(makeMeshPage(maker_, opening_, *work), 1);
+  workColumn->addWidget(makePathBlock(maker_, opening_, *work));
+  maker_.showWhileAny(
+      *panes, {&opening_.LabelFileName, &opening_.ListActors, &opening_.ListMaterials,
+               &opening_.ListChannels, &opening_.ListAltGeomActors, &opening_.ListboxListCR2Files,
+               &opening_.ListAltGeomNames, &opening_.ListOBJExtract});
+  pages->addWidget(work);
+  column->addWidget(pages, 1);
+  setCentralWidget(centre);
+
+  auto splash =
+      std::make_unique<WidgetBinding>(maker_.dispatcher(), opening_.ImageSplash, *pages->widget(0));
+  splash->setShower([pages](bool shown) { pages->setCurrentIndex(shown ? 0 : 1); });
+  maker_.bindings().add(std::move(splash));
+  makeOverlays(maker_, opening_, *centre);
+}
+
+/// Timers, and the labels and lists that hold state: should a tool show one, it is seen.
+void MainWindow::bindTheRest() {
+  auto* column = qobject_cast<QVBoxLayout*>(centralWidget()->layout());
+  for (front::Control* control : opening_.controls()) {
+    if (control == &opening_.PictureTile || maker_.bindings().bound(*control)) continue;
+    if (auto* timer = dynamic_cast<front::Timer*>(control); timer != nullptr) {
+      maker_.timer(*timer);
+    } else if (QWidget* widget = maker_.make(*control, *centralWidget()); widget != nullptr) {
+      column->addWidget(widget);
+      widget->setVisible(control->visible());
+    }
+  }
+}
+
+void MainWindow::sync() {
+  QString title = shown(opening_.caption());
+  const std::string& file = opening_.LabelOBJFileName.visible()
+                                ? opening_.LabelOBJFileName.caption()
+                                : opening_.LabelFileNameForEditor.caption();
+  if (!file.empty()) {
+    title = shown(text::fileTitle(file)) + QStringLiteral("[*] - ") + title;
+  } else {
+    title += QStringLiteral("[*]");
+  }
+  if (windowTitle() != title) setWindowTitle(title);
+  if (isWindowModified() != opening_.PathsEdited) setWindowModified(opening_.PathsEdited);
+  if (drawnState_ == opening_.state()) return;
+  drawnState_ = opening_.state();
+  if (drawnState_ == front::WindowState::maximised) {
+    showMaximized();
+  } else if (isVisible()) {
+    showNormal();
+  }
+}
+
+void MainWindow::chooseTheme(Theme theme) {
+  QApplication::setPalette(paletteOf(theme, system_));
+  // The colours that mean something have their shade in each theme.
+  maker_.bindings().updateAll(opening_);
+  text::ignoringErrors([&] { session_.settings.set(kWindowSection, kThemeKey, themeName(theme)); });
+}
+
+bool MainWindow::drawTile(int left, int top) {
+  if (curtain_ == nullptr) {
+    const QSize drawn(static_cast<int>(opening_.box().width) / kTwipsPerPixel,
+                      static_cast<int>(opening_.box().height) / kTwipsPerPixel);
+    curtain_ = new Curtain(*this, drawn, frontEnd_.tileWidth());
+  }
+  return curtain_->drawTile(left, top);
+}
+
+void MainWindow::restorePlace() {
+  restoreWindow(*this, session_.settings);
+}
+
+void MainWindow::keepPlace() {
+  text::ignoringErrors([&] { keepWindow(*this, session_.settings); });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  // The exit steps say whether and when the window goes.
+  event->ignore();
+  if (frontEnd_.waiting()) frontEnd_.stopWaiting();
+  QTimer::singleShot(0, this, [this] {
+    if (!opening_.loaded()) return;
+    maker_.dispatcher().run([this] {
+      keepPlace();
+      session_.unload(opening_);
+    });
+  });
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  const std::string name = keyName(*event);
+  if (!name.empty() && opening_.key.hasHandlers()) maker_.dispatcher().raise(opening_.key, name);
+  if (name == "Escape" && opening_.ListMRU.visible()) opening_.ListMRU.hide();
+  maker_.dispatcher().sync();
+  QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (carriesFile(*event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const std::string path = droppedFile(*event->mimeData(), session_);
+  if (path.empty()) return;
+  const QPoint place = sourcePane_->mapFrom(this, event->position().toPoint());
+  const bool asSource = sourcePane_->isVisible() && sourcePane_->rect().contains(place);
+  event->acceptProposedAction();
+  // The drag is over first: the open may put up a box.
+  QTimer::singleShot(0, this, [this, path, asSource] { openDropped(path, asSource); });
+}
+
+/// A dropped file takes the way of one that is chosen in the dialog.
+void MainWindow::openDropped(const std::string& path, bool asSource) {
+  frontEnd_.withChosen(path, [&] {
+    if (asSource && opening_.LabelOpenSource.reachable()) {
+      maker_.dispatcher().raise(opening_.LabelOpenSource.pressed, front::Mouse{});
+      maker_.dispatcher().raise(opening_.LabelOpenSource.released, front::Mouse{});
+      maker_.dispatcher().raise(opening_.LabelOpenSource.clicked);
+    } else {
+      menus_->choose(opening_.MenuFileOpen);
+    }
+  });
+}
+
+}  // namespace norvik::desktop

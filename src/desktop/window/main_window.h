@@ -1,0 +1,63 @@
+#pragma once
+// The main form in a window.
+
+#include "desktop/bind/menu_binding.h"
+#include "desktop/desktop_front_end.h"
+#include "desktop/maker.h"
+#include "desktop/theme.h"
+#include "desktop/window/curtain.h"
+#include "desktop/window/status_line.h"
+
+#include <QMainWindow>
+
+#include <memory>
+
+class QSplitter;
+
+namespace norvik::desktop {
+
+/// The window of Opening: menus, tools, panes and what lies over them. It draws and passes on; what
+/// is seen is the controls' affair.
+class MainWindow : public QMainWindow {
+ public:
+  MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& frontEnd,
+             const QPalette& system);
+  ~MainWindow() override;
+
+  void setBusy(bool busy) { status_->setBusy(busy); }
+  void setProgress(std::uint64_t position, std::uint64_t size) {
+    status_->setProgress(position, size);
+  }
+  bool drawTile(int left, int top);
+
+  /// What is not a control's: the title, the state of the window.
+  void sync();
+  void restorePlace();
+  void keepPlace();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+
+ private:
+  void makeCentre();
+  void makeMenus();
+  void bindTheRest();
+  void openDropped(const std::string& path, bool asSource);
+  void chooseTheme(Theme theme);
+
+  Maker& maker_;
+  front::Session& session_;
+  front::Opening& opening_;
+  DesktopFrontEnd& frontEnd_;
+  QPalette system_;
+  std::unique_ptr<MenuTree> menus_;
+  std::unique_ptr<StatusLine> status_;
+  QWidget* sourcePane_ = nullptr;
+  Curtain* curtain_ = nullptr;
+  front::WindowState drawnState_ = front::WindowState::normal;
+};
+
+}  // namespace norvik::desktop

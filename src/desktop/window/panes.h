@@ -1,0 +1,23 @@
+#pragma once
+// The panes of the main window.
+
+#include "desktop/maker.h"
+#include "front/opening.h"
+
+class QWidget;
+
+namespace norvik::desktop {
+
+/// Left: the figure that is worked on, its parts and its materials.
+QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& parent);
+
+/// Right: where morphs come from, and the channels.
+QWidget* makeSourcePane(Maker& maker, front::Opening& opening, QWidget& parent);
+
+/// Below: the references of the figure.
+QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent);
+
+/// What the panes give way to when a mesh is open.
+QWidget* makeMeshPage(Maker& maker, front::Opening& opening, QWidget& parent);
+
+}  // namespace norvik::desktop

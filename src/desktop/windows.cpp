@@ -1,0 +1,80 @@
+#include "desktop/windows.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace norvik::desktop {
+
+Windows::Windows(Dispatcher& dispatcher, front::Session& session, DesktopFrontEnd& frontEnd,
+                 const QPalette& system)
+    : dispatcher_(dispatcher), session_(session), maker_(dispatcher, bindings_) {
+  main_ = std::make_unique<MainWindow>(maker_, session, frontEnd, system);
+  dispatcher_.setSync([this] { sync(); });
+  frontEnd.setStage(*this);
+}
+
+Windows::~Windows() {
+  dispatcher_.setSync({});
+}
+
+void Windows::sync() {
+  for (front::Form* form : session_.forms()) {
+    bindings_.sync(*form);
+    followFocus(*form);
+  }
+  main_->sync();
+}
+
+/// Gives the keys to the control that a tool has chosen since the last time.
+void Windows::followFocus(front::Form& form) {
+  front::Control* wanted = form.focus();
+  if (std::exchange(focus_[&form], wanted) == wanted || wanted == nullptr) return;
+  const auto other = others_.find(&form);
+  QWidget* window = other == others_.end() ? static_cast<QWidget*>(main_.get())
+                                           : static_cast<QWidget*>(other->second.get());
+  auto* widget = window->findChild<QWidget*>(QString::fromStdString(wanted->name()));
+  if (widget != nullptr && widget->isVisible() && !widget->hasFocus()) widget->setFocus();
+}
+
+FormWindow& Windows::windowOf(front::Form& form) {
+  auto& window = others_[&form];
+  if (!window) {
+    window = std::make_unique<FormWindow>(
+        maker_, form,
+        [this, &form] {
+          if (form.loaded()) dispatcher_.run([&] { session_.unload(form); });
+        },
+        main_.get());
+  }
+  return *window;
+}
+
+void Windows::show(front::Form& form, bool modal) {
+  if (&form == &session_.opening) {
+    main_->restorePlace();
+    main_->show();
+    return;
+  }
+  FormWindow& window = windowOf(form);
+  window.setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+  bindings_.updateAll(form);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+void Windows::close(front::Form& form) {
+  if (&form == &session_.opening) {
+    main_->hide();
+  } else if (const auto found = others_.find(&form); found != others_.end()) {
+    found->second->hide();
+  }
+}
+
+void Windows::breathe(std::uint64_t position, std::uint64_t size) {
+  main_->setProgress(position, size);
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,186 @@
+// norvik-tour: an operator who knows what to do, at the real window.
+//
+// Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
+//        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
+// DRIVE is the host folder of drive C, with the sample figures in it.
+
+#include "desktop/operator.h"
+#include "desktop/window_asker.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QtTest>
+
+#include <iostream>
+
+namespace {
+
+using Qt::StringLiterals::operator""_s;
+namespace desktop = norvik::desktop;
+
+const QString kCharacters = u"/Runtime/Libraries/Characters/Tilda/"_s;
+
+/// Copies the morph LongHead of the second figure's head into the first one.
+void copyMorph(desktop::Operator& hand, const QString& drive) {
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.shortcut(Qt::Key_O, Qt::ControlModifier);
+  hand.willChoose(drive + kCharacters + u"tilda2.cr2"_s);
+  hand.click(u"LabelOpenSource"_s);
+  hand.clickItem(u"ListActors"_s, u"head:1"_s);
+  hand.click(u"PictureViewChannels"_s);
+  hand.clickItem(u"ListChannels"_s, u"LongHead"_s);
+  hand.willPress(u"Yes"_s);
+  hand.willChoose(drive + kCharacters + u"tilda3.cr2"_s);
+  hand.click(u"PictureCopyToDest"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
+}
+
+class Photographer {
+ public:
+  Photographer(desktop::Program& program, QString folder)
+      : program_(program), folder_(std::move(folder)) {}
+
+  /// The window with whatever lies over it, as it is on the screen.
+  void take(const QString& name) const {
+    QTest::qWait(150);
+    const QRect place = program_.mainWindow().frameGeometry();
+    QApplication::primaryScreen()
+        ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
+        .save(folder_ + u'/' + name + u".png"_s, "PNG", 0);
+  }
+
+ private:
+  desktop::Program& program_;
+  QString folder_;
+};
+
+void chooseTheme(desktop::Program& program, const QString& name) {
+  program.mainWindow().findChild<QAction*>(u"Theme."_s + name)->trigger();
+}
+
+void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
+                  const QString& folder) {
+  const Photographer camera(program, folder);
+  camera.take(u"empty"_s);
+
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+  camera.take(u"figure"_s);
+  hand.hover(u"TextMainTex"_s);
+  camera.take(u"textures"_s);
+  hand.clickItem(u"ListAllTexMaps"_s, u"tilda"_s);
+
+  hand.willChoose(drive + kCharacters + u"tilda2.cr2"_s);
+  hand.click(u"LabelOpenSource"_s);
+  hand.clickItem(u"ListActors"_s, u"head:1"_s);
+  hand.click(u"PictureViewChannels"_s);
+  hand.clickItem(u"ListChannels"_s, u"LongHead"_s);
+  camera.take(u"part"_s);
+  hand.willLook([&](QWidget& box) {
+    box.move(program.mainWindow().geometry().center() - box.rect().center());
+    camera.take(u"question"_s);
+  });
+  hand.willPress(u"No"_s);
+  hand.click(u"PictureCopyToDest"_s);
+
+  chooseTheme(program, u"dark"_s);
+  camera.take(u"dark"_s);
+  hand.menu({u"MenuCR2Tools"_s});
+  camera.take(u"menu"_s);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  QTest::keyClick(static_cast<QWidget*>(program.mainWindow().menuBar()), Qt::Key_Escape);
+  chooseTheme(program, u"light"_s);
+
+  hand.menu({u"MenuCR2Tools"_s, u"MenuBrack"_s});
+  QTest::qWait(1700);
+  camera.take(u"brackets"_s);
+  hand.click(u"PictureBrktsOK"_s);
+
+  hand.type(u"TextMainBump"_s, u"C:\\Runtime\\textures\\skin.bmp"_s);
+  hand.doubleClick(u"TextMainBump"_s);
+  camera.take(u"edited"_s);
+  hand.menu({u"menuFile"_s, u"menuRecent"_s});
+  camera.take(u"recent"_s);
+  while (QApplication::activePopupWidget() != nullptr) QApplication::activePopupWidget()->close();
+
+  hand.willPress(u"No"_s);
+  hand.willChoose(drive + u"/Runtime/Geometries/Tilda/tilda.obj"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+  camera.take(u"mesh"_s);
+  chooseTheme(program, u"dark"_s);
+  camera.take(u"mesh-dark"_s);
+  chooseTheme(program, u"system"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
+}
+
+/// The resident memory of this process in megabytes.
+double megabytes() {
+  QFile status(u"/proc/self/status"_s);
+  if (!status.open(QIODevice::ReadOnly)) return 0;
+  const QString text = QString::fromLatin1(status.readAll());
+  constexpr double kKilo = 1024;
+  return text.section(u"VmRSS:"_s, 1).section(u"kB"_s, 0, 0).trimmed().toDouble() / kKilo;
+}
+
+void measure(desktop::Program& program, const std::string& file, qint64 started) {
+  std::cout << "start: " << started << " ms, " << megabytes() << " MB\n";
+  for (int i = 0; i < 3; ++i) {
+    QElapsedTimer clock;
+    clock.start();
+    program.frontEnd().withChosen(
+        file, [&] { program.dispatcher().raise(program.session().opening.MenuFileOpen.clicked); });
+    std::cout << "open: " << clock.elapsed() << " ms, " << megabytes() << " MB\n";
+  }
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  QElapsedTimer clock;
+  clock.start();
+  QApplication application(count, arguments);
+  const QStringList words = QApplication::arguments();
+  if (words.size() < 4) return 2;
+  desktop::Options options;
+  options.drives = {{'C', QDir(words[2]).absolutePath().toStdString()}};
+  options.settings = words[3].toStdString();
+  desktop::WindowAsker asker;
+  desktop::Program program(options, asker);
+  desktop::Operator hand(program);
+
+  qint64 started = 0;
+  QTimer::singleShot(0, &application, [&] {
+    program.start();
+    QCoreApplication::processEvents();
+    started = clock.elapsed();
+  });
+  constexpr int kStarted = 300;  // milliseconds
+  QTimer::singleShot(kStarted, &application, [&] {
+    program.mainWindow().activateWindow();
+    if (!QTest::qWaitForWindowActive(&program.mainWindow(), 5000)) {
+      desktop::giveUp("the window does not become active");
+    }
+    const QString drive = QDir(words[2]).absolutePath();
+    if (words[1] == u"copy"_s) copyMorph(hand, drive);
+    if (words[1] == u"time"_s) {
+      measure(program, words.value(4).toStdString(), started);
+      QApplication::quit();
+    }
+    if (words[1] == u"pictures"_s) takePictures(program, hand, drive, words.value(4));
+  });
+  // The closing animation can be skipped with a key.
+  QTimer skip;
+  QObject::connect(&skip, &QTimer::timeout, &application, [&] {
+    auto* curtain = program.mainWindow().findChild<QWidget*>(u"PictureTile"_s);
+    if (curtain != nullptr) QTest::keyClick(curtain, Qt::Key_Space);
+  });
+  skip.start(50);
+  const int end = QApplication::exec();
+  for (const QString& box : hand.boxes()) std::cout << box.toStdString() << '\n';
+  return end;
+}
