@@ -25,7 +25,7 @@ class LineFilter {
  private:
   struct Search {
     Token token;
-    std::size_t rarest;  ///< the offset of the character that is looked for first
+    std::size_t rarest = 0;  ///< the offset of the character that is looked for first
   };
   static std::size_t find(std::string_view block, std::size_t begin, std::size_t end,
                           const Search& search);

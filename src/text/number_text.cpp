@@ -97,11 +97,9 @@ double value(std::string_view text) {
   for (const char c : text) {
     if (c == ' ' || c == '\t') continue;
     const bool digit = c >= '0' && c <= '9';
-    const bool sign = c == '-' || c == '+';
+    const bool sign = (c == '-' || c == '+') && (number.empty() || number.back() == 'e');
     if (digit) {
       digits = true;
-    } else if (sign && !number.empty() && number.back() != 'e') {
-      break;
     } else if (c == '.' && !point && !exponent) {
       point = true;
     } else if ((c == 'e' || c == 'E' || c == 'd' || c == 'D') && digits && !exponent) {

@@ -71,7 +71,7 @@ std::string followLinks(HostOps& host, std::string name) {
   for (int links = 0; links < kMostLinks; ++links) {
     std::string target;
     if (host.readLink(name, target) != 0) return name;
-    name = target.starts_with('/') ? target : folderOf(name) + "/" + target;
+    name = target.starts_with('/') ? target : folderOf(name).append("/").append(target);
   }
   throw FileError(ErrorNumber::pathFileAccess);
 }

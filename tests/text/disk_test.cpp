@@ -15,7 +15,6 @@ namespace norvik::text {
 namespace {
 
 using tests::errorNumber;
-using tests::TemporaryFolder;
 
 class DiskTest : public testing::Test, public tests::Drive {
  protected:
