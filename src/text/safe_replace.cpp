@@ -70,7 +70,9 @@ std::string copyBeside(HostOps& host, const std::string& source, const std::stri
 std::string followLinks(HostOps& host, std::string name) {
   for (int links = 0; links < kMostLinks; ++links) {
     std::string target;
-    if (host.readLink(name, target) != 0) return name;
+    const int error = host.readLink(name, target);
+    if (error == EINVAL || error == ENOENT) return name;  // no link, or nothing yet
+    raise(error);
     name = target.starts_with('/') ? target : folderOf(name).append("/").append(target);
   }
   throw FileError(ErrorNumber::pathFileAccess);
