@@ -68,7 +68,8 @@ struct Act {
   std::string backup = {};
   /// The file that gets the new text, if it is not the figure.
   std::string target = "work/figure.cr2";
-  std::string oldTarget = {};  ///< its text before; none if it is missing then
+  std::string oldTarget = {};    ///< its text before; none if it is missing then
+  std::string oldSpelling = {};  ///< of the target's name, if it is to change
   /// What else must hold.
   std::function<void(const TemporaryFolder&)> check = [](const TemporaryFolder&) {};
   /// Whether the act, done again without a fault, gets through whatever a run has left.
@@ -107,7 +108,9 @@ void checkTexts(const TemporaryFolder& folder, const Act& act) {
     EXPECT_EQ(folder.read(act.backup), act.oldText);
   }
   if (!changesFigure) {
-    if (isThere(folder, act.target)) {
+    if (!act.oldSpelling.empty() && isThere(folder, act.oldSpelling)) {
+      EXPECT_TRUE(isWhole(folder, act.oldSpelling, act.oldTarget, act.newText));
+    } else if (isThere(folder, act.target)) {
       EXPECT_TRUE(isWhole(folder, act.target, act.oldTarget.empty() ? act.newText : act.oldTarget,
                           act.newText))
           << folder.read(act.target);
@@ -116,6 +119,15 @@ void checkTexts(const TemporaryFolder& folder, const Act& act) {
     }
   }
   act.check(folder);
+}
+
+/// What was a link stays one, and keeps its spelling.
+void expectLinks(const TemporaryFolder& folder, const Act& act) {
+  const auto host = text::makePosixHost();
+  std::string target;
+  EXPECT_EQ(host->readLink(folder.path("work/figure.cr2"), target), 0);
+  const std::string& name = act.oldSpelling.empty() ? act.target : act.oldSpelling;
+  EXPECT_TRUE(act.oldTarget.empty() || host->readLink(folder.path(name), target) == 0);
 }
 
 void layOut(const TemporaryFolder& folder, const Act& act, Layout layout) {
@@ -128,7 +140,9 @@ void layOut(const TemporaryFolder& folder, const Act& act, Layout layout) {
     folder.makeLink(name, folder.path("real/" + title));
   };
   put("work/figure.cr2", act.oldText);
-  if (!act.oldTarget.empty()) put(act.target, act.oldTarget);
+  if (!act.oldTarget.empty()) {
+    put(act.oldSpelling.empty() ? act.target : act.oldSpelling, act.oldTarget);
+  }
   if (act.files) act.files(folder);
 }
 
@@ -166,12 +180,16 @@ void failEverywhere(const Act& act, Layout layout, const Way& way) {
     layOut(folder, act, layout);
     met = runOnce(folder, act, layout, way, n);
     checkTexts(folder, act);
+    if (layout == Layout::links) expectLinks(folder, act);
     if (testing::Test::HasFailure()) return;
     // Only who knows what happened can tidy up.
     if (!met || way.fault == Fault::error || way.fault == Fault::fullDisk) expectNoStrays(folder);
     if (met && act.repeatable) runOnce(folder, act, layout, {Fault::none, 0}, 0);
     const bool done = !met || act.repeatable;
-    EXPECT_TRUE(!done || folder.read(act.target) == act.newText);
+    // A link keeps its spelling.
+    const bool keepsSpelling = layout == Layout::links && !act.oldSpelling.empty();
+    const std::string& target = keepsSpelling ? act.oldSpelling : act.target;
+    EXPECT_TRUE(!done || (isThere(folder, target) && folder.read(target) == act.newText));
     if (testing::Test::HasFailure()) return;
   }
   // A mere move writes nothing that a full disk could refuse.
@@ -218,8 +236,9 @@ TEST_P(DataSafety, SaveUnderANewName) {
 TEST_P(DataSafety, SaveAsOverAnotherFigure) {
   Act act;
   act.before = editTexture;
-  act.script = "choose C:\\work\\other.cr2\nclick MenuFileSaveAs\n";
-  act.target = "work/other.cr2";
+  act.script = "choose C:\\work\\Other.cr2\nclick MenuFileSaveAs\n";
+  act.target = "work/Other.cr2";
+  act.oldSpelling = "work/other.CR2";
   act.oldTarget = "another figure\r\n";
   failEverywhere(act, GetParam());
 }
