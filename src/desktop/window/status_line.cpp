@@ -7,7 +7,7 @@
 namespace norvik::desktop {
 
 StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
-    : bar_(bar), state_(new QLabel(&bar)), progress_(new QProgressBar(&bar)) {
+    : state_(new QLabel(&bar)), progress_(new QProgressBar(&bar)) {
   constexpr int kPermille = 1000;
   constexpr int kWidth = 180;
   state_->setObjectName(QStringLiteral("StatusText"));

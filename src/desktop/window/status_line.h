@@ -22,7 +22,6 @@ class StatusLine {
   void setProgress(std::uint64_t position, std::uint64_t size);
 
  private:
-  QStatusBar& bar_;
   QLabel* state_;
   QProgressBar* progress_;
 };
