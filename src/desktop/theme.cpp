@@ -69,7 +69,9 @@ qreal luminance(const QColor& colour) {
 }
 
 qreal contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax(luminance(one), luminance(other));
+  const qreal first = luminance(one);
+  const qreal second = luminance(other);
+  const auto [dark, light] = std::minmax(first, second);
   return (light + 0.05) / (dark + 0.05);
 }
 

@@ -30,6 +30,7 @@ class PropertyList {
   }
   void indexes(std::string_view name, const std::vector<int>& values) {
     std::vector<std::string> digits;
+    digits.reserve(values.size());
     for (const int value : values) digits.push_back(std::to_string(value));
     list(name, digits, [](std::string_view text) { return std::string{text}; });
   }
