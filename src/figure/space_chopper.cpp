@@ -17,7 +17,7 @@ class LeadingBlanks {
  public:
   /// The lines without the blanks, good until the next call.
   std::string_view removedFrom(std::string_view lines) {
-    kept_.resize(lines.size());
+    kept_.resize(lines.size() + 1);
     rest_ = lines;
     size_ = 0;
     std::size_t at = 0;
@@ -37,6 +37,8 @@ class LeadingBlanks {
     }
     if (size_ == 0 && rest_.size() == lines.size()) return lines;
     keep(rest_.size());
+    // A blank that was all of an unfinished last line leaves an empty line, not none.
+    if (!text::isLineEnd(lines.back())) kept_[size_++] = '\n';
     return {kept_.data(), size_};
   }
 

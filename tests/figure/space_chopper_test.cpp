@@ -36,6 +36,15 @@ TEST_F(SpaceChopperTest, EndsAllLinesConventionally) {
   EXPECT_EQ(folder_.read("foo.cr2"), "a\r\nb\r\nc\r\n\r\nd\r\n");
 }
 
+TEST_F(SpaceChopperTest, ABlankThatIsAllOfAnUnfinishedLastLineLeavesAnEmptyLine) {
+  folder_.write("foo.cr2", " a\r\n ");
+  EXPECT_EQ(chop("C:\\foo.cr2"), 0);
+  EXPECT_EQ(folder_.read("foo.cr2"), "a\r\n\r\n");
+  folder_.write("foo.cr2", "a\r ");
+  EXPECT_EQ(chop("C:\\foo.cr2"), 0);
+  EXPECT_EQ(folder_.read("foo.cr2"), "a\r\n\r\n");
+}
+
 TEST_F(SpaceChopperTest, WorksInTheCurrentFolder) {
   folder_.write("figures/foo.cr2", " a\r\n");
   folder_.write("work/chop.DOC", "of an earlier run");
