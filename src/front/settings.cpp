@@ -52,9 +52,10 @@ void Settings::load() {
 
   std::string_view rest = all;
   while (!rest.empty()) {
-    const auto line = text::before(rest, "\n");
+    auto line = text::before(rest, "\n");
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-    lines_.emplace_back(line.ends_with('\r') ? text::withoutLast(line, 1) : line);
+    while (line.ends_with('\r')) line.remove_suffix(1);
+    lines_.emplace_back(line);
   }
 }
 
