@@ -1,18 +1,15 @@
 #pragma once
 // Colours that the tools read back as state, in the byte order blue, green, red.
 
-#include <cstdint>
+#include "graphics/colour.h"
 
 namespace norvik::front {
 
-using Colour = std::uint32_t;
+using graphics::Colour;
+using graphics::colourOf;
+using graphics::kBlack;
+using graphics::kWhite;
 
-constexpr Colour colourOf(unsigned red, unsigned green, unsigned blue) {
-  return red | green << 8U | blue << 16U;
-}
-
-constexpr Colour kBlack = 0;
-constexpr Colour kWhite = 0xFFFFFF;
 constexpr Colour kWindowGrey = 0xC0C0C0;
 
 constexpr Colour kPathClean = 0xC00000;  ///< a path label whose box is as the file has it

@@ -44,6 +44,8 @@ std::string_view kindName(ControlKind kind) {
       return "shape";
     case ControlKind::image:
       return "image";
+    case ControlKind::drawingSurface:
+      return "drawing surface";
   }
   return "control";
 }

@@ -28,6 +28,7 @@ enum class ControlKind {
   frame,
   shape,
   image,
+  drawingSurface,
 };
 
 /// The kind in words: "list box", "menu entry".

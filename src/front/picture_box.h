@@ -1,0 +1,29 @@
+#pragma once
+// Pictures that the tools draw on.
+
+#include "front/control.h"
+#include "graphics/surface.h"
+
+#include <string_view>
+
+namespace norvik::front {
+
+/// A drawing surface on a form. What is drawn comes on view when the tool refreshes the picture.
+class PictureBox : public Control {
+ public:
+  PictureBox(Form& form, std::string_view name, int width, int height)
+      : Control(form, name, ControlKind::drawingSurface), surface_(width, height) {
+    setBox({0, 0, static_cast<float>(width), static_cast<float>(height)});
+  }
+
+  const graphics::Surface& surface() const { return surface_; }
+  graphics::Surface& surface() { return surface_; }
+
+  /// Brings what was drawn on view.
+  void refresh() { touch(); }
+
+ private:
+  graphics::Surface surface_;
+};
+
+}  // namespace norvik::front
