@@ -111,8 +111,8 @@ class LineReader {
   std::size_t begin_ = 0;  ///< of the unread bytes in the buffer
   std::size_t end_ = 0;
   // Lines are shorter than a chunk as a rule: one look at a chunk tells the ends of several.
-  std::uint64_t ends_ = 0;    ///< marks of the line ends in the chunk in front of lookedTo_
-  std::size_t lookedTo_ = 0;  ///< how far line() has looked for line ends
+  std::uint64_t ends_ = 0;          ///< marks of the line ends in the chunk in front of lookedTo_
+  std::size_t lookedTo_ = 0;        ///< how far line() has looked for line ends
   std::size_t wholeEnd_ = 0;        ///< of the last whole line; 0 until it was looked for
   std::uint64_t filePosition_ = 0;  ///< of the buffer's first byte
   bool fileEnded_ = false;
