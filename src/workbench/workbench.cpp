@@ -22,7 +22,8 @@ namespace norvik::workbench {
 
 Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& settings,
                      std::string programFolder, std::string commandLine)
-    : session_(front, disk, settings, opening_) {
+    : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
+  session_.addForm(formObj_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
