@@ -53,7 +53,7 @@ class GlView : public QOpenGLWidget, protected QOpenGLFunctions_3_3_Core {
   Places places_;
   QOpenGLVertexArrayObject array_;
   QOpenGLBuffer buffer_{QOpenGLBuffer::VertexBuffer};
-  int capacity_ = 0;  ///< of the buffer, in bytes
+  int capacity_ = 0;        ///< of the buffer, in bytes
   std::uint64_t held_ = 0;  ///< the mesh that the buffer holds
   Counts counts_;
 };
