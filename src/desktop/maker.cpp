@@ -5,6 +5,7 @@
 #include "desktop/bind/list_binding.h"
 #include "desktop/bind/picture_binding.h"
 #include "desktop/bind/shape_binding.h"
+#include "desktop/bind/surface_binding.h"
 #include "desktop/bind/text_binding.h"
 #include "desktop/bind/timer_binding.h"
 #include "desktop/elided_label.h"
@@ -103,6 +104,15 @@ QAbstractButton& Maker::swatch(front::Control& picture, QWidget& parent) {
   return *button;
 }
 
+SurfaceView& Maker::surface(front::PictureBox& picture, QWidget& parent) {
+  auto* view = new SurfaceView(picture.surface(), &parent);
+  const PictureLook* look = lookOf(picture.name());
+  view->setAccessibleName(look != nullptr ? QString::fromLatin1(look->hint)
+                                          : QString::fromStdString(picture.name()));
+  bindings_.add(std::make_unique<SurfaceBinding>(dispatcher_, picture, *view));
+  return *view;
+}
+
 void Maker::shape(front::Shape& shape, QFrame& frame) {
   bindings_.add(std::make_unique<ShapeBinding>(dispatcher_, shape, frame));
 }
@@ -178,6 +188,8 @@ QWidget* Maker::make(front::Control& control, QWidget& parent) {
       bindings_.add(std::make_unique<WidgetBinding>(dispatcher_, control, *picture));
       return picture;
     }
+    case ControlKind::drawingSurface:
+      return &surface(dynamic_cast<front::PictureBox&>(control), parent);
     case ControlKind::timer:
     case ControlKind::menuEntry:
       return nullptr;

@@ -3,9 +3,11 @@
 
 #include "desktop/bind/binding.h"
 #include "desktop/bind/list_view.h"
+#include "desktop/bind/surface_view.h"
 #include "desktop/bind/widget_binding.h"
 #include "front/choice_controls.h"
 #include "front/list_box.h"
+#include "front/picture_box.h"
 #include "front/plain_controls.h"
 #include "front/text_controls.h"
 #include "front/timer.h"
@@ -43,6 +45,8 @@ class Maker {
   QToolButton& picture(front::Control& picture, QWidget& parent, int iconSize);
   /// A picture button that shows its own colour.
   QAbstractButton& swatch(front::Control& picture, QWidget& parent);
+  /// A drawing surface, with its name for those who listen.
+  SurfaceView& surface(front::PictureBox& picture, QWidget& parent);
   void shape(front::Shape& shape, QFrame& frame);
   void timer(front::Timer& timer);
 

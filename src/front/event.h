@@ -27,9 +27,10 @@ class Event {
   std::vector<Handler> handlers_;
 };
 
-enum class MouseButton { left, right };
+enum class MouseButton { left, right, none };
 
-/// A press, move or release of the mouse on a control, in pixels from its top left corner.
+/// A press, move or release of the mouse on a control, in pixels from its top left corner. A drag
+/// may leave the control. The button of a move is the one that is held.
 struct Mouse {
   MouseButton button = MouseButton::left;
   int x = 0;

@@ -21,6 +21,16 @@ class PictureBox : public Control {
 
   /// Brings what was drawn on view.
   void refresh() { touch(); }
+  /// Wipes the picture, on view too.
+  void clear() {
+    surface_.clear();
+    touch();
+  }
+  /// Gives the picture another size, which wipes it.
+  void resize(int width, int height) {
+    surface_.resize(width, height);
+    setBox({box().left, box().top, static_cast<float>(width), static_cast<float>(height)});
+  }
 
  private:
   graphics::Surface surface_;

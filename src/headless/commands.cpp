@@ -1,6 +1,9 @@
 #include "headless/commands.h"
 
+#include "front/picture_box.h"
+#include "graphics/bmp.h"
 #include "headless/control_state.h"
+#include "text/classic_errors.h"
 #include "text/columns.h"
 
 #include <charconv>
@@ -75,12 +78,13 @@ void orRefuse(const std::function<void()>& step) {
 }  // namespace
 
 Commands::Commands(workbench::Workbench& workbench, ScriptFrontEnd& front, Transcript& transcript,
-                   Outcome& outcome)
+                   Outcome& outcome, text::HostOps& host)
     : workbench_(workbench),
       session_(workbench.session()),
       front_(front),
       transcript_(transcript),
       outcome_(outcome),
+      host_(host),
       acts_(session_) {
   addAnswers();
   addProgram();
@@ -225,7 +229,7 @@ void Commands::addMouse() {
   commands_["click"] = [this](ScriptLine& line) { acts_.click(reach(line.word())); };
   commands_["right-click"] = [this](ScriptLine& line) { acts_.rightClick(reach(line.word())); };
   commands_["double-click"] = [this](ScriptLine& line) { acts_.doubleClick(reach(line.word())); };
-  commands_["hover"] = [this](ScriptLine& line) { acts_.move(reach(line.word()), {}); };
+  commands_["hover"] = [this](ScriptLine& line) { acts_.hover(reach(line.word())); };
   commands_["press"] = [this](ScriptLine& line) {
     front::Control& control = reach(line.word());
     acts_.press(control, mouseAt(line));
@@ -327,9 +331,7 @@ void Commands::addOutput() {
       transcript_.print(showEvent(*control, nameOf(session_, *control)));
     }
   };
-  commands_["save-picture"] = [this](ScriptLine& line) {
-    throw Refused{find(line.word()).name() + " is no drawing surface"};
-  };
+  commands_["save-picture"] = [this](ScriptLine& line) { savePicture(line); };
   commands_["echo"] = [this](ScriptLine& line) {
     transcript_.print(JsonObject("echo").text("text", line.rest()));
   };
@@ -355,6 +357,19 @@ void Commands::checkProperty(ScriptLine& line) {
     return;
   }
   throw Refused{control.name() + " has no property '" + name + "'"};
+}
+
+void Commands::savePicture(ScriptLine& line) {
+  const front::Control& control = find(line.word());
+  const auto* picture = dynamic_cast<const front::PictureBox*>(&control);
+  if (picture == nullptr) throw Refused{control.name() + " is no drawing surface"};
+  const std::string name = line.rest();
+  if (name.empty()) throw Refused{"no file"};
+  orRefuse([&] {
+    std::unique_ptr<text::HostFile> file;
+    text::raise(host_.open(name, text::HostOpenMode::write, file));
+    text::raise(file->write(graphics::bmpBytes(picture->surface())));
+  });
 }
 
 void Commands::fail(const ScriptLine& line, const std::string& why) {

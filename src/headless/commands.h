@@ -17,7 +17,7 @@ namespace norvik::headless {
 class Commands {
  public:
   Commands(workbench::Workbench& workbench, ScriptFrontEnd& front, Transcript& transcript,
-           Outcome& outcome);
+           Outcome& outcome, text::HostOps& host);
 
   void run(ScriptLine line);
 
@@ -45,12 +45,14 @@ class Commands {
   front::ListBox& selectItem(ScriptLine& line);
   void fail(const ScriptLine& line, const std::string& why);
   void checkProperty(ScriptLine& line);
+  void savePicture(ScriptLine& line);
 
   workbench::Workbench& workbench_;
   front::Session& session_;
   ScriptFrontEnd& front_;
   Transcript& transcript_;
   Outcome& outcome_;
+  text::HostOps& host_;
   OperatorActs acts_;
   std::map<std::string, Command, std::less<>> commands_;
 };

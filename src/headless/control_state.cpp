@@ -2,7 +2,9 @@
 
 #include "front/choice_controls.h"
 #include "front/list_box.h"
+#include "front/picture_box.h"
 #include "front/timer.h"
+#include "graphics/crc32.h"
 
 namespace norvik::headless {
 
@@ -28,7 +30,7 @@ class PropertyList {
   void texts(std::string_view name, const std::vector<std::string>& values) {
     list(name, values, jsonString);
   }
-  void indexes(std::string_view name, const std::vector<int>& values) {
+  void wholes(std::string_view name, const std::vector<int>& values) {
     std::vector<std::string> digits;
     digits.reserve(values.size());
     for (const int value : values) digits.push_back(std::to_string(value));
@@ -77,7 +79,7 @@ std::vector<Property> propertiesOf(const front::Control& control) {
   addCommon(list, control);
   if (const auto* box = dynamic_cast<const front::ListBox*>(&control)) {
     list.texts("items", box->items());
-    list.indexes("selected", box->selection());
+    list.wholes("selected", box->selection());
   }
   if (const auto* captioned = dynamic_cast<const front::CaptionControl*>(&control)) {
     list.text("caption", captioned->caption());
@@ -97,6 +99,11 @@ std::vector<Property> propertiesOf(const front::Control& control) {
   if (const auto* timer = dynamic_cast<const front::Timer*>(&control)) {
     list.whole("interval", timer->interval());
     list.boolean("running", timer->running());
+  }
+  if (const auto* picture = dynamic_cast<const front::PictureBox*>(&control)) {
+    const graphics::Surface& surface = picture->surface();
+    list.wholes("pixels", {surface.width(), surface.height()});
+    list.whole("crc", graphics::crc32(surface.rgbBytes()));
   }
   return list.take();
 }

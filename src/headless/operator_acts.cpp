@@ -92,6 +92,9 @@ void OperatorActs::move(front::Control& control, Mouse mouse) {
 void OperatorActs::release(front::Control& control, Mouse mouse) {
   deliver(control.released, mouse);
 }
+void OperatorActs::hover(front::Control& control) {
+  deliver(control.moved, Mouse{MouseButton::none});
+}
 
 void OperatorActs::expire(front::Timer& timer) {
   if (timer.running()) deliver(timer.expired);

@@ -37,6 +37,8 @@ class OperatorActs {
   void press(front::Control& control, front::Mouse mouse);
   void move(front::Control& control, front::Mouse mouse);
   void release(front::Control& control, front::Mouse mouse);
+  /// Moves the mouse over a control, no button held.
+  void hover(front::Control& control);
   void expire(front::Timer& timer);
 
  private:

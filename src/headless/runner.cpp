@@ -81,7 +81,7 @@ ExitCode runScript(const Options& options, text::HostOps& host, std::istream& in
   Outcome outcome;
   ScriptFrontEnd frontEnd(transcript, outcome, options.frontEnd);
   workbench::Workbench workbench(frontEnd, disk, settings, program, options.open);
-  Commands commands(workbench, frontEnd, transcript, outcome);
+  Commands commands(workbench, frontEnd, transcript, outcome, host);
 
   Script script(input);
   const auto step = [&] {

@@ -47,7 +47,7 @@ TEST_F(OperatorCommands, TheMouseGoesToItsPlace) {
   EXPECT_EQ(quietly("press Pad.PicturePad 3 4\ndrag Pad.PicturePad -5 600\n"
                     "release Pad.PicturePad 7 8 right\nhover Pad.PicturePad\n"),
             (Lines{"PicturePad press 3,4", "PicturePad move -5,600", "PicturePad release 7,8 right",
-                   "PicturePad move 0,0"}));
+                   "PicturePad move 0,0 free"}));
 }
 
 TEST_F(OperatorCommands, AnOptionTakesItsValueBeforeItsClickArrives) {

@@ -5,6 +5,7 @@
 #include "front/form.h"
 #include "front/list_box.h"
 #include "front/menu_entry.h"
+#include "front/picture_box.h"
 #include "front/plain_controls.h"
 #include "front/timer.h"
 
@@ -55,6 +56,7 @@ struct PadForm : front::Form {
   front::CheckBox CheckPad{*this, "CheckPad", "D"};
   front::Slider SliderPad{*this, "SliderPad", -5, 5};
   front::PictureButton PicturePad{*this, "PicturePad"};
+  front::PictureBox CanvasPad{*this, "CanvasPad", 4, 3};
   front::CommandButton CommandPad{*this, "CommandPad", "Go"};
   front::Timer TimerPad{*this, "TimerPad", 250};
   front::MenuEntry MenuPad{*this, "MenuPad", "Menu"};
@@ -69,7 +71,9 @@ struct PadForm : front::Form {
     const auto mouse = [this, name](const char* what) {
       return [this, name, what](front::Mouse at) {
         log.push_back(name + " " + what + " " + std::to_string(at.x) + "," + std::to_string(at.y) +
-                      (at.button == front::MouseButton::right ? " right" : ""));
+                      (at.button == front::MouseButton::right  ? " right"
+                       : at.button == front::MouseButton::none ? " free"
+                                                               : ""));
       };
     };
     control.pressed.add(mouse("press"));

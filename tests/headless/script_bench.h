@@ -108,7 +108,7 @@ class BenchOf {
   Front front{transcript, outcome,
               ScriptFrontEnd::Options{1600, 1160, std::string{"2002-03-04 05:06:07"}}};
   workbench::Workbench workbench{front, disk, settings, "C:\\Norvik", ""};
-  Commands commands{workbench, front, transcript, outcome};
+  Commands commands{workbench, front, transcript, outcome, *host};
 };
 
 using ScriptBench = BenchOf<ScriptFrontEnd>;

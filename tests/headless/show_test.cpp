@@ -88,11 +88,24 @@ TEST_F(ShowEvent, OfAPictureHasTheCommonState) {
             std::string::npos);
 }
 
+// The check sums are those of 36 bytes of 255, and of the same with the second row's third pixel as
+// 12, 34, 56.
+TEST_F(ShowEvent, OfADrawingSurfaceHasItsSizeAndCheckSum) {
+  EXPECT_EQ(shown("CanvasPad"),
+            state("CanvasPad", "drawing surface", R"(,"pixels":[4,3],"crc":429457753)"));
+  pad.CanvasPad.surface().setPixel({2, 1}, graphics::colourOf(12, 34, 56));
+  EXPECT_EQ(shown("CanvasPad"),
+            state("CanvasPad", "drawing surface", R"(,"pixels":[4,3],"crc":4273862398)"));
+  pad.CanvasPad.surface().resize(0, 3);
+  EXPECT_EQ(shown("CanvasPad"),
+            state("CanvasPad", "drawing surface", R"(,"pixels":[0,3],"crc":0)"));
+}
+
 TEST_F(ShowEvent, OfAFormComesInTheOrderOfItsDeclaration) {
-  const Lines names{"LabelPad", "ListPad",   "ListOne",    "TextPad",    "RichPad",
-                    "ComboPad", "FramePad",  "OptionA",    "OptionB",    "OptionOutside",
-                    "CheckPad", "SliderPad", "PicturePad", "CommandPad", "TimerPad",
-                    "MenuPad",  "MenuInner", "MenuLeaf"};
+  const Lines names{"LabelPad", "ListPad",   "ListOne",    "TextPad",   "RichPad",
+                    "ComboPad", "FramePad",  "OptionA",    "OptionB",   "OptionOutside",
+                    "CheckPad", "SliderPad", "PicturePad", "CanvasPad", "CommandPad",
+                    "TimerPad", "MenuPad",   "MenuInner",  "MenuLeaf"};
   const Lines events = bench.play("show-form Pad\n");
   ASSERT_EQ(events.size(), names.size());
   for (std::size_t i = 0; i < names.size(); ++i) {

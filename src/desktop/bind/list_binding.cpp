@@ -12,16 +12,6 @@
 
 namespace norvik::desktop {
 
-namespace {
-
-front::Mouse mouseOf(const QMouseEvent& event) {
-  const QPoint place = event.position().toPoint();
-  const bool right = event.button() == Qt::RightButton;
-  return {right ? front::MouseButton::right : front::MouseButton::left, place.x(), place.y()};
-}
-
-}  // namespace
-
 ListBinding::ListBinding(Dispatcher& dispatcher, front::ListBox& list, ListView& view)
     : WidgetBinding(dispatcher, list, view, Clicks::own), list_(list), view_(view), model_(list) {
   model_.setTickable(list.tickChanged.hasHandlers());

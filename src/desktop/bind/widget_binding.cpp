@@ -15,10 +15,10 @@ namespace norvik::desktop {
 
 namespace {
 
-front::Mouse mouseOf(const QMouseEvent& event) {
-  const QPoint place = event.position().toPoint();
-  const bool right = event.button() == Qt::RightButton;
-  return {right ? front::MouseButton::right : front::MouseButton::left, place.x(), place.y()};
+front::MouseButton heldButton(const QMouseEvent& event) {
+  if (event.buttons().testFlag(Qt::RightButton)) return front::MouseButton::right;
+  if (event.buttons().testFlag(Qt::LeftButton)) return front::MouseButton::left;
+  return front::MouseButton::none;
 }
 
 bool isClick(const QMouseEvent& event) {
@@ -90,6 +90,16 @@ bool WidgetBinding::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
+QPoint WidgetBinding::placeOf(const QPointF& place) const {
+  return place.toPoint();
+}
+
+front::Mouse WidgetBinding::mouseOf(const QMouseEvent& event) const {
+  const QPoint place = placeOf(event.position());
+  const bool right = event.button() == Qt::RightButton;
+  return {right ? front::MouseButton::right : front::MouseButton::left, place.x(), place.y()};
+}
+
 bool WidgetBinding::mousePressed(const QMouseEvent& event) {
   if (isClick(event)) raise(control().pressed, mouseOf(event));
   return false;
@@ -112,10 +122,8 @@ bool WidgetBinding::mouseDoubleClicked(const QMouseEvent& event) {
 
 void WidgetBinding::mouseMoved(const QMouseEvent& event) {
   if (!control().moved.hasHandlers()) return;
-  const QPoint place = event.position().toPoint();
-  const bool right = (event.buttons() & Qt::RightButton) != 0;
-  raise(control().moved, front::Mouse{right ? front::MouseButton::right : front::MouseButton::left,
-                                      place.x(), place.y()});
+  const QPoint place = placeOf(event.position());
+  raise(control().moved, front::Mouse{heldButton(event), place.x(), place.y()});
 }
 
 void WidgetBinding::clickByKey() {

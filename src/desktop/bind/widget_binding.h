@@ -14,6 +14,7 @@
 class QDropEvent;
 class QKeyEvent;
 class QMouseEvent;
+class QPointF;
 
 namespace norvik::desktop {
 
@@ -38,15 +39,18 @@ class WidgetBinding : public Binding, public QObject {
 
   /// The widget that gets the mouse.
   void watch(QWidget& widget);
+  /// Where in the control a place of the widget is.
+  virtual QPoint placeOf(const QPointF& place) const;
+  front::Mouse mouseOf(const QMouseEvent& event) const;
   virtual bool mousePressed(const QMouseEvent& event);
   virtual bool mouseReleased(const QMouseEvent& event);
+  virtual void mouseMoved(const QMouseEvent& event);
   virtual bool mouseDoubleClicked(const QMouseEvent& event);
   virtual bool keyPressed(const QKeyEvent& event);
   /// What a click does, from the mouse or the keyboard.
   void clickByKey();
 
  private:
-  void mouseMoved(const QMouseEvent& event);
   bool dragOver(QDropEvent& event) const;
   bool dropped(const QDropEvent& event);
 
