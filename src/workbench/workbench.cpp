@@ -17,6 +17,8 @@
 #include "lifecycle/help_menu.h"
 #include "lifecycle/recent_click.h"
 #include "lifecycle/start.h"
+#include "obj/spin.h"
+#include "obj/view_keys.h"
 
 namespace norvik::workbench {
 
@@ -42,6 +44,8 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  obj::wireSpin(workshop_);
+  obj::wireViewKeys(workshop_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);
