@@ -55,7 +55,7 @@ class Form {
   std::vector<Control*> takeChanges();
 
   Event<const std::string&> key;
-  Event<Mouse> released;  ///< of the mouse over the form, also over what stands on it
+  Event<Mouse> released;  ///< over the form itself, where no control is
   Event<> loading;        ///< what the form does before it is shown
   Event<> unloading;      ///< what the form does when it is unloaded, also by its close box
 

@@ -40,6 +40,13 @@ struct Mesh {
   float SmallestX = 0;
   float BiggestY = 0;
   DisplayList display;
+
+  /// Forgets everything and gives the memory back.
+  void clear() {
+    const auto revision = display.revision;
+    *this = {};
+    display.revision = revision + 1;
+  }
 };
 
 }  // namespace norvik::obj

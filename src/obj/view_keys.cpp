@@ -1,6 +1,7 @@
 #include "obj/view_keys.h"
 
 #include "obj/spin.h"
+#include "obj/view.h"
 
 #include <cmath>
 #include <string>
@@ -62,6 +63,7 @@ void startOrStop(Workshop& workshop) {
 
 void take(Workshop& workshop, const std::string& key) {
   if (key == "Escape") workshop.Suppress = !workshop.Suppress;
+  if (key == "r") RefreshOBJ(workshop);
   if (busy(workshop)) return;
   if (key == "/") zoom(workshop, -1);
   if (key == "*") zoom(workshop, 1);

@@ -17,7 +17,14 @@
 #include "lifecycle/help_menu.h"
 #include "lifecycle/recent_click.h"
 #include "lifecycle/start.h"
+#include "obj/fall_back_view.h"
+#include "obj/hot_keys.h"
+#include "obj/leaving.h"
+#include "obj/open_workshop.h"
+#include "obj/play.h"
+#include "obj/reset.h"
 #include "obj/spin.h"
+#include "obj/view.h"
 #include "obj/view_keys.h"
 
 namespace norvik::workbench {
@@ -44,6 +51,13 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  obj::wireOpenWorkshop(workshop_);
+  obj::wireView(workshop_);
+  obj::wireFallBackView(workshop_);
+  obj::wireReset(workshop_);
+  obj::wireHotKeyList(workshop_);
+  obj::wirePlay(workshop_);
+  obj::wireLeaving(workshop_);
   obj::wireSpin(workshop_);
   obj::wireViewKeys(workshop_);
   lifecycle::wireRecentFiles(session_);
