@@ -1,7 +1,7 @@
 # The window is built where Qt 6 is there; everything else needs no more than a compiler.
 set(NORVIK_DESKTOP_FOUND OFF)
 if(NOT NORVIK_DESKTOP STREQUAL "OFF")
-  set(desktop_parts Widgets Svg PrintSupport Network)
+  set(desktop_parts Widgets OpenGLWidgets Svg PrintSupport Network)
   if(NORVIK_TESTS)
     list(APPEND desktop_parts Test)
   endif()

@@ -2,7 +2,9 @@
 // A front end that nobody sits in front of.
 
 #include "front/front_end.h"
+#include "headless/remembering_device.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,6 +29,10 @@ class QuietFrontEnd final : public front::FrontEnd {
   void beep() override {}
   void pumpEvents() override {}
   void waitForOperator() override { throw front::ToolStopped{}; }
+  graphics::Device3D& device(front::PictureBox& picture) override {
+    return devices_.try_emplace(&picture, picture).first->second;
+  }
+  bool nextFrame() override { return false; }
   void show(front::Form&) override {}
   void showModal(front::Form&) override {}
   void unloaded(front::Form&) override {}
@@ -46,6 +52,7 @@ class QuietFrontEnd final : public front::FrontEnd {
  private:
   front::Answer answer_ = front::Answer::ok;
   std::vector<std::string> boxes_;
+  std::map<front::PictureBox*, headless::RememberingDevice> devices_;
 };
 
 }  // namespace norvik::fuzz

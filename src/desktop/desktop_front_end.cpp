@@ -13,6 +13,8 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace norvik::desktop {
 
 namespace {
@@ -119,10 +121,34 @@ void DesktopFrontEnd::beep() {
   QApplication::beep();
 }
 
+/// A tool may call this for each of a million faces. Most of its time belongs to the tool.
 void DesktopFrontEnd::pumpEvents() {
+  constexpr qint64 kLeastQuiet = 8'000'000;
+  constexpr qint64 kMostQuiet = 100'000'000;
+  constexpr qint64 kQuietPerPump = 4;
+  if (sincePump_.isValid() && sincePump_.nsecsElapsed() < quiet_) return;
+  QElapsedTimer pump;
+  pump.start();
   dispatcher_.sync();
   const Dispatcher::Door door(dispatcher_);
   QCoreApplication::processEvents();
+  quiet_ = std::clamp(kQuietPerPump * pump.nsecsElapsed(), kLeastQuiet, kMostQuiet);
+  sincePump_.start();
+}
+
+GlDevice& DesktopFrontEnd::glDevice(front::PictureBox& picture) {
+  auto& device = devices_[&picture];
+  if (!device) device = std::make_unique<GlDevice>(picture);
+  return *device;
+}
+
+bool DesktopFrontEnd::nextFrame() {
+  dispatcher_.sync();
+  const Dispatcher::Door door(dispatcher_);
+  const bool waited = std::exchange(waiting_, true);
+  pacer_.wait(stopped_);
+  waiting_ = waited;
+  return !std::exchange(stopped_, false) && !ended_;
 }
 
 void DesktopFrontEnd::waitForOperator() {
@@ -193,6 +219,7 @@ void DesktopFrontEnd::runtimeError(const text::FileError& error) {
 }
 
 void DesktopFrontEnd::endProcess() {
+  ended_ = true;
   QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
 }
 

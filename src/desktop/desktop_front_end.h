@@ -3,10 +3,15 @@
 
 #include "desktop/asker.h"
 #include "desktop/dispatcher.h"
+#include "desktop/gl/gl_device.h"
+#include "desktop/pacer.h"
 #include "desktop/sound.h"
 #include "front/front_end.h"
 #include "text/disk.h"
 
+#include <QElapsedTimer>
+
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,7 +41,11 @@ class DesktopFrontEnd : public front::FrontEnd {
   /// on the window takes the way of a chosen one.
   void withChosen(const std::string& path, const std::function<void()>& act);
 
-  /// Ends the waiting of a tool that polls; it stops there. For a window that closes.
+  /// The 3D view of a picture, for the widget that paints it.
+  GlDevice& glDevice(front::PictureBox& picture);
+
+  /// Ends the waiting of a tool that polls, or an animation; it stops there. For a window that
+  /// closes.
   void stopWaiting() { stopped_ = true; }
   bool waiting() const { return waiting_; }
 
@@ -49,6 +58,8 @@ class DesktopFrontEnd : public front::FrontEnd {
   void beep() override;
   void pumpEvents() override;
   void waitForOperator() override;
+  graphics::Device3D& device(front::PictureBox& picture) override { return glDevice(picture); }
+  bool nextFrame() override;
   void show(front::Form& form) override;
   void showModal(front::Form& form) override;
   void unloaded(front::Form& form) override;
@@ -80,9 +91,14 @@ class DesktopFrontEnd : public front::FrontEnd {
   Sound sound_;
   std::unique_ptr<QPrinter> printer_;
   std::optional<std::string> chosen_;
+  std::map<const front::PictureBox*, std::unique_ptr<GlDevice>> devices_;
+  Pacer pacer_;
+  QElapsedTimer sincePump_;
+  qint64 quiet_ = 0;  ///< nanoseconds to the next pump that is worth it
   bool hourglass_ = false;
   bool waiting_ = false;
   bool stopped_ = false;
+  bool ended_ = false;
 };
 
 /// A dialog's filter, "Figures|*.cr2;*.pz3", in the window's form.

@@ -1,5 +1,7 @@
 #include "desktop/windows.h"
 
+#include "desktop/window/mesh_window.h"
+
 #include <QCoreApplication>
 
 #include <utility>
@@ -8,7 +10,10 @@ namespace norvik::desktop {
 
 Windows::Windows(Dispatcher& dispatcher, front::Session& session, DesktopFrontEnd& frontEnd,
                  const QPalette& system)
-    : dispatcher_(dispatcher), session_(session), maker_(dispatcher, bindings_) {
+    : dispatcher_(dispatcher),
+      session_(session),
+      frontEnd_(frontEnd),
+      maker_(dispatcher, bindings_) {
   main_ = std::make_unique<MainWindow>(maker_, session, frontEnd, system);
   dispatcher_.setSync([this] { sync(); });
   frontEnd.setStage(*this);
@@ -24,6 +29,12 @@ void Windows::sync() {
     followFocus(*form);
   }
   main_->sync();
+  for (const auto& [form, window] : others_) window->sync();
+}
+
+void Windows::setBusy(bool busy) {
+  main_->setBusy(busy);
+  for (const auto& [form, window] : others_) window->setBusy(busy);
 }
 
 /// Gives the keys to the control that a tool has chosen since the last time.
@@ -37,16 +48,22 @@ void Windows::followFocus(front::Form& form) {
   if (widget != nullptr && widget->isVisible() && !widget->hasFocus()) widget->setFocus();
 }
 
+std::unique_ptr<FormWindow> Windows::makeWindow(front::Form& form) {
+  const auto unload = [this, &form] {
+    if (form.loaded()) dispatcher_.run([&] { session_.unload(form); });
+  };
+  if (auto* workshop = dynamic_cast<front::FormOBJ*>(&form); workshop != nullptr) {
+    return std::make_unique<MeshWindow>(maker_, session_, *workshop, frontEnd_, unload,
+                                        main_.get());
+  }
+  auto window = std::make_unique<FormWindow>(maker_, form, unload, main_.get());
+  window->placeAll();
+  return window;
+}
+
 FormWindow& Windows::windowOf(front::Form& form) {
   auto& window = others_[&form];
-  if (!window) {
-    window = std::make_unique<FormWindow>(
-        maker_, form,
-        [this, &form] {
-          if (form.loaded()) dispatcher_.run([&] { session_.unload(form); });
-        },
-        main_.get());
-  }
+  if (!window) window = makeWindow(form);
   return *window;
 }
 
@@ -74,6 +91,7 @@ void Windows::close(front::Form& form) {
 
 void Windows::breathe(std::uint64_t position, std::uint64_t size) {
   main_->setProgress(position, size);
+  for (const auto& [form, window] : others_) window->setProgress(position, size);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

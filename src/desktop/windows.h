@@ -22,7 +22,7 @@ class Windows : public Stage {
 
   void show(front::Form& form, bool modal) override;
   void close(front::Form& form) override;
-  void setBusy(bool busy) override { main_->setBusy(busy); }
+  void setBusy(bool busy) override;
   bool drawTile(int left, int top) override { return main_->drawTile(left, top); }
 
   /// Repaints in the middle of a pass that has come so far; nothing that the operator does gets
@@ -33,9 +33,11 @@ class Windows : public Stage {
   void sync();
   void followFocus(front::Form& form);
   FormWindow& windowOf(front::Form& form);
+  std::unique_ptr<FormWindow> makeWindow(front::Form& form);
 
   Dispatcher& dispatcher_;
   front::Session& session_;
+  DesktopFrontEnd& frontEnd_;
   Bindings bindings_;
   Maker maker_;
   std::unique_ptr<MainWindow> main_;

@@ -24,7 +24,9 @@ class Form {
   virtual ~Form() = default;
 
   const std::string& name() const { return name_; }
+  /// The window's title.
   const std::string& caption() const { return caption_; }
+  void setCaption(std::string_view caption) { caption_ = caption; }
 
   const std::vector<Control*>& controls() const { return controls_; }
   /// The control of that name, names without regard to case; none if there is none.
@@ -53,7 +55,9 @@ class Form {
   std::vector<Control*> takeChanges();
 
   Event<const std::string&> key;
-  Event<> unloading;  ///< what the form does when it is unloaded, also by its close box
+  Event<Mouse> released;  ///< over the form itself, where no control is
+  Event<> loading;        ///< what the form does before it is shown
+  Event<> unloading;      ///< what the form does when it is unloaded, also by its close box
 
  private:
   friend class Control;

@@ -8,48 +8,134 @@
 #include "front/plain_controls.h"
 #include "front/text_controls.h"
 
+#include <array>
+
 namespace norvik::front {
 
 class FormOBJ : public Form {
  public:
   FormOBJ();
 
+  /// Gives everything the state in which the form is loaded: nothing read, the tools hidden.
+  void restoreStart();
+
+  /// The flat views, in the order of the view's number: front, side, top.
+  std::array<PictureBox*, 3> flatViews() { return {&PictureStore, &PictureStore2, &PictureStore3}; }
+
   // What crosses the workshop's tools.
 
-  bool ReadParamObj = false;  ///< the next read takes "\Param.obj"
-  bool ReadAgain = false;  ///< a tool has started the read: the path and line endings are settled
-  bool AddMode = false;    ///< a second mesh is in view
-  bool RenamesPending = false;
+  bool ReadParamObj = false;    ///< the next read takes "\Param.obj"
+  bool ReadAgain = false;       ///< a tool starts the read: path and line endings are settled
+  bool AddMode = false;         ///< a second mesh is in view
+  bool RenamesPending = false;  ///< groups or materials wait for the rewrite on leaving
+  bool LopOn = false;           ///< the lop box is being drawn
+  int MapDrawn = 0;             ///< 1 when a template is on PictureUVMap
+  int MapSaved = 0;             ///< 1 when it is saved
 
   // The views.
 
   PictureBox PictureObjViewer2{*this, "PictureObjViewer2", kViewSize, kViewSize};  ///< 3D
   PictureBox PictureOBJViewer{*this, "PictureOBJViewer", kViewSize, kViewSize};
+  /// The front view that is drawn without 3D.
   PictureBox PictureNoDX{*this, "PictureNoDX", kViewSize, kViewSize};
   PictureBox PictureStore{*this, "PictureStore", kViewSize, kViewSize};    ///< front
   PictureBox PictureStore2{*this, "PictureStore2", kViewSize, kViewSize};  ///< side
   PictureBox PictureStore3{*this, "PictureStore3", kViewSize, kViewSize};  ///< top
   PictureBox PictureUVMap{*this, "PictureUVMap", kMapSize, kMapSize};
   PictureBox PictureSecMap{*this, "PictureSecMap", kMapSize, kMapSize};
+  /// For drawing by hand, and for texture maps.
   PictureBox PictureZoom{*this, "PictureZoom", kViewSize, kViewSize};
   PictureBox PictureAddObjFront{*this, "PictureAddObjFront", kViewSize, kViewSize};
   PictureBox PictureAddObjSide{*this, "PictureAddObjSide", kViewSize, kViewSize};
   PictureBox PictureAddObjTop{*this, "PictureAddObjTop", kViewSize, kViewSize};
+  /// They cover the work.
   Image ImageBoss{*this, "ImageBoss"};
   Image ImageRDS{*this, "ImageRDS"};
   Image ImageSaveMap{*this, "ImageSaveMap"};
 
-  // The choice of view.
+  // The read and what it shows.
 
+  /// Reads the mesh.
   Label LabelView{*this, "LabelView", "View"};
+  /// Drops the mesh and asks for another one.
+  PictureButton PictureNewFile{*this, "PictureNewFile"};
   Frame Frame1{*this, "Frame1", "View"};
   OptionButton OptionFrontView{*this, "OptionFrontView", "Front", &Frame1};
   OptionButton OptionSideView{*this, "OptionSideView", "Side", &Frame1};
   OptionButton OptionTopView{*this, "OptionTopView", "Top", &Frame1};
+  Frame Frame2{*this, "Frame2", "Colors"};
+  OptionButton OptionNoColors{*this, "OptionNoColors", "No Colors", &Frame2};
+  OptionButton OptionColorGroups{*this, "OptionColorGroups", "Groups", &Frame2};
+  OptionButton OptionColorMaterials{*this, "OptionColorMaterials", "Materials", &Frame2};
+  Frame Frame3{*this, "Frame3", "Draw"};
+  OptionButton OptionShowPolys{*this, "OptionShowPolys", "Polygons", &Frame3};
+  OptionButton OptionShowPoints{*this, "OptionShowPoints", "Points", &Frame3};
+  CheckBox CheckHiddenFaces{*this, "CheckHiddenFaces", "Hidden Faces"};
+  OptionButton OptionAlphabetize{*this, "OptionAlphabetize", "Alphabetize"};
+  Label LabelHotKeys{*this, "LabelHotKeys", "Hot Keys"};
+  ListBox ListHotKeys{*this, "ListHotKeys"};
+  Label LabelWait{*this, "LabelWait", "Please wait..."};
+  Label LabelPlay{*this, "LabelPlay", "PLAY"};
+  Label LabelBoss{*this, "LabelBoss", "Boss Button"};
+
+  // Groups and materials.
+
+  CommandButton CommandListGroups{*this, "CommandListGroups", "List Groups"};
+  CommandButton CommandListMats{*this, "CommandListMats", "List Materials"};
+  /// The group names of the mesh in first-seen order.
+  ListBox ListGroups{*this, "ListGroups"};
+  ListBox ListMaterials{*this, "ListMaterials"};
+  /// Hidden: a line of the mesh, "*", and its red, green and blue from 1 to 254.
+  ListBox ListGroupColors{*this, "ListGroupColors"};
+  ListBox ListMATColors{*this, "ListMATColors"};
+  TextBox RichTextBoxGroups{*this, "RichTextBoxGroups", ControlKind::richTextBox};
+  TextBox RichTextBoxMaterials{*this, "RichTextBoxMaterials", ControlKind::richTextBox};
+  Label LabelRichRename{*this, "LabelRichRename", "Rename"};
+  /// Hidden: an old name, "*", and the new one.
+  ListBox ListGrpRen{*this, "ListGrpRen"};
+  ListBox ListMatRen{*this, "ListMatRen"};
+  TextBox TextGrpRename{*this, "TextGrpRename"};
+  TextBox TextMatRename{*this, "TextMatRename"};
+  CheckBox CheckSaveGroups{*this, "CheckSaveGroups", "Save Groups"};
+  CheckBox CheckSaveMaterials{*this, "CheckSaveMaterials", "Save Materials"};
+  ListBox ListGroupsSave{*this, "ListGroupsSave", Selection::multiple};
+  ListBox ListMaterialsSave{*this, "ListMaterialsSave", Selection::multiple};
+
+  // Maps.
+
+  Label LabelMakeUV{*this, "LabelMakeUV", "Make UV"};
+  Label LabelUVMap{*this, "LabelUVMap", "UV Map"};
+  Label LabelSecMap{*this, "LabelSecMap", "Secondary Map"};
+  Label LabelSaveMap{*this, "LabelSaveMap", "Save Map"};
+  Label LabelViewCR2TexMap{*this, "LabelViewCR2TexMap", "View Map"};
+  Label LabelApplyMap{*this, "LabelApplyMap", "Apply Map"};
+  TextBox TextMapSize{*this, "TextMapSize"};
+  TextBox TextMapSizeSec{*this, "TextMapSizeSec"};
+
+  // Tools that change the mesh, and notes on it.
+
+  Label LabelMirror{*this, "LabelMirror", "Mirror"};
+  PictureButton PictureAddOBJ{*this, "PictureAddOBJ"};
+  PictureButton PictureMerge{*this, "PictureMerge"};
+  PictureButton PictureLop{*this, "PictureLop"};
+  PictureButton PicturePhiLopper{*this, "PicturePhiLopper"};
+  /// Hidden: the colours to remove.
+  ListBox ListLop{*this, "ListLop"};
+  PictureButton PictureMagGlass{*this, "PictureMagGlass"};
+  TextBox TextNotes{*this, "TextNotes"};
+
+  // Hidden labels that hold state: the extents of the mesh in view units.
+
+  Label LabelBiggestX{*this, "LabelBiggestX"};
+  Label LabelSmallestX{*this, "LabelSmallestX"};
+  Label LabelBiggestY{*this, "LabelBiggestY"};
 
  private:
   static constexpr int kViewSize = 600;
   static constexpr int kMapSize = 580;
 };
+
+/// Gives the controls of the workshop their places, in pixels.
+void layOut(FormOBJ& form);
 
 }  // namespace norvik::front

@@ -9,9 +9,16 @@
 #include <string_view>
 #include <vector>
 
+namespace norvik::graphics {
+
+class Device3D;
+
+}  // namespace norvik::graphics
+
 namespace norvik::front {
 
 class Form;
+class PictureBox;
 
 /// Message box styles: the buttons, to which an icon may be added.
 enum Style : int {
@@ -77,6 +84,12 @@ class FrontEnd {
   virtual void pumpEvents() = 0;
   /// Waits until the operator has done one thing; for tools that poll.
   virtual void waitForOperator() = 0;
+
+  /// The 3D view of a picture; the same one for as long as the front end lives.
+  virtual graphics::Device3D& device(PictureBox& picture) = 0;
+  /// Between two frames of an animation: lets queued events run and keeps the pace. False when the
+  /// animation has lost its operator and must end.
+  virtual bool nextFrame() = 0;
 
   /// Shows a loaded form.
   virtual void show(Form& form) = 0;

@@ -1,17 +1,16 @@
 #include "front/screen_scale.h"
 
+#include "front/picture_box.h"
+
+#include <algorithm>
+#include <cmath>
+
 namespace norvik::front {
 
-void ResizeFormToScreen(Session& session, Form& form) {
-  if (form.state() != WindowState::normal) return;
-  Opening& opening = session.opening;
-  const Screen screen = session.front.screen();
-  const Box old = form.box();
-  opening.ScreenScaleX = screen.width / old.width;
-  opening.ScreenScaleY = screen.height / old.height;
-  const float x = opening.ScreenScaleX;
-  const float y = opening.ScreenScaleY;
+namespace {
 
+void scale(Form& form, float x, float y) {
+  const Box old = form.box();
   form.setBox({0, 0, old.width * x, old.height * y});
   form.setFontSize(form.fontSize() * x);
   for (Control* control : form.controls()) {
@@ -22,7 +21,33 @@ void ResizeFormToScreen(Session& session, Form& form) {
     control->setBox({box.left * x, box.top * y, box.width * x, box.height * y});
     control->setFontSize(control->fontSize() * x);
   }
+}
+
+void fitSurface(PictureBox& picture) {
+  picture.resize(static_cast<int>(std::lround(picture.box().width)),
+                 static_cast<int>(std::lround(picture.box().height)));
+}
+
+}  // namespace
+
+void ResizeFormToScreen(Session& session, Form& form) {
+  if (form.state() != WindowState::normal) return;
+  Opening& opening = session.opening;
+  const Screen screen = session.front.screen();
+  const Box old = form.box();
+  opening.ScreenScaleX = screen.width / old.width;
+  opening.ScreenScaleY = screen.height / old.height;
+  scale(form, opening.ScreenScaleX, opening.ScreenScaleY);
   form.setState(WindowState::maximised);
+}
+
+void scaleToScreen(Session& session, Form& form) {
+  const Screen screen = session.front.screen();
+  const float ratio = std::min(screen.width / form.box().width, screen.height / form.box().height);
+  if (ratio > 0) scale(form, ratio, ratio);
+  for (Control* control : form.controls()) {
+    if (auto* picture = dynamic_cast<PictureBox*>(control)) fitSurface(*picture);
+  }
 }
 
 float scaledLeft(const Opening& opening, float left) {

@@ -9,6 +9,10 @@ namespace norvik::front {
 /// screen, keeps the ratios in the main form's ScreenScaleX and ScreenScaleY, and maximises it.
 void ResizeFormToScreen(Session& session, Form& form);
 
+/// Multiplies a form, its controls and their fonts by the one ratio at which the form just fits on
+/// the screen. Drawing surfaces take their new size in whole pixels and keep their proportions.
+void scaleToScreen(Session& session, Form& form);
+
 /// A left edge in the main form's own pixels, as it is on the screen.
 float scaledLeft(const Opening& opening, float left);
 

@@ -23,6 +23,7 @@ Form* Session::findForm(std::string_view name) const {
 void Session::load(Form& form) {
   if (form.loaded()) return;
   form.setLoaded(true);
+  form.loading.raise();
   front.show(form);
 }
 

@@ -226,7 +226,14 @@ void Commands::addProgram() {
 
 void Commands::addMouse() {
   commands_["click"] = [this](ScriptLine& line) { acts_.click(reach(line.word())); };
-  commands_["right-click"] = [this](ScriptLine& line) { acts_.rightClick(reach(line.word())); };
+  commands_["right-click"] = [this](ScriptLine& line) {
+    const std::string name = line.word();
+    if (session_.findForm(name) != nullptr) {
+      acts_.rightClick(reachForm(name));
+    } else {
+      acts_.rightClick(reach(name));
+    }
+  };
   commands_["double-click"] = [this](ScriptLine& line) { acts_.doubleClick(reach(line.word())); };
   commands_["hover"] = [this](ScriptLine& line) { acts_.hover(reach(line.word())); };
   commands_["press"] = [this](ScriptLine& line) {

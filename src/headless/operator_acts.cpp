@@ -34,6 +34,10 @@ void OperatorActs::rightClick(front::Control& control) {
   deliver(control.released, Mouse{MouseButton::right});
 }
 
+void OperatorActs::rightClick(front::Form& form) {
+  deliver(form.released, Mouse{MouseButton::right});
+}
+
 void OperatorActs::doubleClick(front::Control& control) {
   deliver(control.doubleClicked);
 }

@@ -16,6 +16,8 @@ class OperatorActs {
   /// A left click. A menu entry is chosen: the menus above it open first, from the top.
   void click(front::Control& control);
   void rightClick(front::Control& control);
+  /// On the form itself.
+  void rightClick(front::Form& form);
   void doubleClick(front::Control& control);
 
   /// Selects the items at these indexes, which must exist, and delivers the click of the last one;

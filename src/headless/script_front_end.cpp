@@ -104,6 +104,18 @@ void ScriptFrontEnd::waitForOperator() {
   if (ended_ || !step_ || !step_()) throw front::ToolStopped{};
 }
 
+RememberingDevice& ScriptFrontEnd::rememberingDevice(front::PictureBox& picture) {
+  auto& device = devices_[&picture];
+  if (!device) device = std::make_unique<RememberingDevice>(picture);
+  return *device;
+}
+
+bool ScriptFrontEnd::nextFrame() {
+  if (++drawn_ < frames_) return !ended_;
+  drawn_ = 0;
+  return !ended_ && step_ && step_() && !ended_;
+}
+
 void ScriptFrontEnd::printForm(const front::Form& form, std::string_view state) {
   transcript_.print(JsonObject("form").text("form", form.name()).text("state", state));
 }

@@ -6,9 +6,12 @@
 #include "front/session.h"
 #include "headless/answers.h"
 #include "headless/outcome.h"
+#include "headless/remembering_device.h"
 #include "headless/transcript.h"
 
 #include <functional>
+#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -39,6 +42,8 @@ class ScriptFrontEnd : public front::FrontEnd {
   front::Form* modalForm() const { return modals_.empty() ? nullptr : modals_.back(); }
   int frames() const { return frames_; }
   void setFrames(int frames) { frames_ = frames; }
+  /// The 3D view of a picture, with what it remembers.
+  RememberingDevice& rememberingDevice(front::PictureBox& picture);
 
   front::Answer messageBox(std::string_view text, std::string_view title, int style) override;
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
@@ -49,6 +54,10 @@ class ScriptFrontEnd : public front::FrontEnd {
   void beep() override;
   void pumpEvents() override {}
   void waitForOperator() override;
+  graphics::Device3D& device(front::PictureBox& picture) override {
+    return rememberingDevice(picture);
+  }
+  bool nextFrame() override;
   void show(front::Form& form) override;
   void showModal(front::Form& form) override;
   void unloaded(front::Form& form) override;
@@ -80,7 +89,9 @@ class ScriptFrontEnd : public front::FrontEnd {
   std::function<void(front::Form&)> unload_;
   std::vector<front::Form*> modals_;
   std::string lastBox_;
+  std::map<front::PictureBox*, std::unique_ptr<RememberingDevice>> devices_;
   int frames_ = 1;
+  int drawn_ = 0;  ///< frames since the last command
   bool ended_ = false;
 };
 

@@ -17,12 +17,22 @@
 #include "lifecycle/help_menu.h"
 #include "lifecycle/recent_click.h"
 #include "lifecycle/start.h"
+#include "obj/fall_back_view.h"
+#include "obj/hot_keys.h"
+#include "obj/leaving.h"
+#include "obj/open_workshop.h"
+#include "obj/play.h"
+#include "obj/reset.h"
+#include "obj/spin.h"
+#include "obj/view.h"
+#include "obj/view_keys.h"
 
 namespace norvik::workbench {
 
 Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& settings,
                      std::string programFolder, std::string commandLine)
-    : session_(front, disk, settings, opening_) {
+    : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
+  session_.addForm(formObj_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -41,6 +51,15 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  obj::wireOpenWorkshop(workshop_);
+  obj::wireView(workshop_);
+  obj::wireFallBackView(workshop_);
+  obj::wireReset(workshop_);
+  obj::wireHotKeyList(workshop_);
+  obj::wirePlay(workshop_);
+  obj::wireLeaving(workshop_);
+  obj::wireSpin(workshop_);
+  obj::wireViewKeys(workshop_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);

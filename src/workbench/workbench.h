@@ -1,7 +1,9 @@
 #pragma once
 // The assembly of the program: the forms, and every tool on its trigger.
 
+#include "front/form_obj.h"
 #include "front/session.h"
+#include "obj/workshop.h"
 
 #include <string>
 
@@ -25,7 +27,9 @@ class Workbench {
   void wireTools();
 
   front::Opening opening_;
+  front::FormOBJ formObj_;
   front::Session session_;
+  obj::Workshop workshop_;
 };
 
 }  // namespace norvik::workbench

@@ -1,0 +1,148 @@
+#include "desktop/gl/gl_view.h"
+
+#include "desktop/gl/gl_support.h"
+
+#include <QOpenGLContext>
+
+namespace norvik::desktop {
+
+namespace {
+
+// Depth runs from 0 to 1 in the matrices and from -1 to 1 here.
+constexpr const char* kVertexProgram = R"(#version 330 core
+uniform mat4 world;
+uniform mat4 view;
+uniform mat4 projection;
+layout(location = 0) in vec3 corner;
+out vec3 seen;
+void main() {
+  vec4 at = view * (world * vec4(corner, 1.0));
+  seen = at.xyz;
+  gl_Position = projection * at;
+  gl_Position.z = 2.0 * gl_Position.z - gl_Position.w;
+})";
+
+// The meshes have no normals, so a face's own is made of its slope on the screen. All faces are
+// drawn, those that look away as well; the more a face looks aside, the darker it is.
+constexpr const char* kFragmentProgram = R"(#version 330 core
+uniform vec3 diffuse;
+uniform bool shaded;
+in vec3 seen;
+out vec4 colour;
+void main() {
+  float light = 1.0;
+  if (shaded) {
+    vec3 normal = normalize(cross(dFdx(seen), dFdy(seen)));
+    vec3 lamp = normalize(vec3(-0.35, 0.55, -1.0));
+    light = 0.25 + 0.6 * abs(dot(normal, lamp)) + 0.15 * abs(normal.z);
+  }
+  colour = vec4(diffuse * light, 1.0);
+})";
+
+float part(unsigned value) {
+  return static_cast<float>(value) / 255.0F;
+}
+
+}  // namespace
+
+GlView::GlView(GlDevice& device, QWidget* parent) : QOpenGLWidget(parent), device_(device) {
+  setFormat(glFormat());
+  device.setWidget(*this);
+}
+
+GlView::~GlView() {
+  release();
+}
+
+void GlView::initializeGL() {
+  // A widget that has come into another window begins anew.
+  held_ = 0;
+  capacity_ = 0;
+  connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { release(); });
+  works_ = initializeOpenGLFunctions();
+  if (!works_) return;
+  program_ = std::make_unique<QOpenGLShaderProgram>();
+  works_ = program_->addShaderFromSourceCode(QOpenGLShader::Vertex, kVertexProgram) &&
+           program_->addShaderFromSourceCode(QOpenGLShader::Fragment, kFragmentProgram) &&
+           program_->link() && buffer_.create() && array_.create();
+  if (!works_) return;
+  places_ = {.world = program_->uniformLocation("world"),
+             .view = program_->uniformLocation("view"),
+             .projection = program_->uniformLocation("projection"),
+             .diffuse = program_->uniformLocation("diffuse"),
+             .shaded = program_->uniformLocation("shaded")};
+  buffer_.setUsagePattern(QOpenGLBuffer::StaticDraw);
+  array_.bind();
+  buffer_.bind();
+  glEnableVertexAttribArray(0);
+  glVertexAttribPointer(0, 3, GL_FLOAT, GL_FALSE, sizeof(GlDevice::Corner), nullptr);
+  array_.release();
+  buffer_.release();
+}
+
+void GlView::release() {
+  if (!program_) return;
+  makeCurrent();
+  program_.reset();
+  buffer_.destroy();
+  array_.destroy();
+  works_ = false;
+  doneCurrent();
+}
+
+void GlView::takeMesh() {
+  if (held_ == device_.meshes()) return;
+  const auto& corners = device_.corners();
+  const auto bytes = static_cast<int>(corners.size() * sizeof(GlDevice::Corner));
+  buffer_.bind();
+  if (bytes > capacity_) {
+    buffer_.allocate(corners.data(), bytes);
+    capacity_ = bytes;
+    ++counts_.allocations;
+  } else if (bytes > 0) {
+    buffer_.write(0, corners.data(), bytes);
+  }
+  buffer_.release();
+  held_ = device_.meshes();
+  ++counts_.uploads;
+}
+
+void GlView::draw(const GlFrame::Draw& draw, int corners) {
+  // A row of ours is a column there, which turns the point from the left side to the right.
+  const auto set = [this](int place, const graphics::Matrix& matrix) {
+    glUniformMatrix4fv(place, 1, GL_FALSE, matrix.row[0].data());
+  };
+  set(places_.world, draw.world);
+  set(places_.view, draw.view);
+  set(places_.projection, draw.projection);
+  glUniform3f(places_.diffuse, draw.material.red, draw.material.green, draw.material.blue);
+  const bool triangles = draw.primitive == graphics::Primitive::triangles;
+  glUniform1i(places_.shaded, triangles ? 1 : 0);
+  if (triangles) {
+    glDrawArrays(GL_TRIANGLES, 0, corners / 3 * 3);
+  } else {
+    glPointSize(static_cast<float>(2 * devicePixelRatioF()));
+    glDrawArrays(GL_POINTS, 0, corners);
+  }
+}
+
+void GlView::paintGL() {
+  const GlFrame& frame = device_.shown();
+  if (!works_) return;
+  ++counts_.frames;
+  glClearColor(part(graphics::redOf(frame.ground)), part(graphics::greenOf(frame.ground)),
+               part(graphics::blueOf(frame.ground)), 1);
+  glEnable(GL_DEPTH_TEST);
+  glDisable(GL_CULL_FACE);
+  glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+  takeMesh();
+  const auto corners = static_cast<int>(device_.corners().size());
+  if (corners == 0) return;
+  program_->bind();
+  array_.bind();
+  for (std::size_t i = 0; i < frame.count; ++i) draw(frame.draws[i], corners);
+  array_.release();
+  program_->release();
+}
+
+}  // namespace norvik::desktop

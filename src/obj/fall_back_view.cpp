@@ -1,0 +1,103 @@
+#include "obj/fall_back_view.h"
+
+#include "obj/colour_book.h"
+#include "obj/face_pace.h"
+#include "obj/face_tokens.h"
+#include "obj/fall_back_vertices.h"
+#include "obj/obj_line.h"
+#include "obj/reading.h"
+#include "obj/vertex_text.h"
+#include "obj/view_scale.h"
+#include "text/line_reader.h"
+
+#include <span>
+
+namespace norvik::obj {
+
+namespace {
+
+class FallBackPass {
+ public:
+  explicit FallBackPass(Workshop& workshop)
+      : workshop_(workshop),
+        groupColours_(workshop.form.ListGroupColors),
+        materialColours_(workshop.form.ListMATColors),
+        scale_(workshop.form) {}
+
+  void run(std::string_view path) {
+    const auto departures = workshop_.departures;
+    FacePace pace(workshop_.session.front);
+    LineNormaliser normalise;
+    text::LineReader in(workshop_.session.disk, path);
+    while (!in.atEnd()) {
+      const ObjLine line = normalise(in.line());
+      take(line);
+      if (line.kind != LineKind::face) continue;
+      if (!workshop_.Suppress) picture().refresh();
+      pace.afterFace();
+      if (workshop_.departures != departures) return;
+    }
+    picture().refresh();
+  }
+
+ private:
+  front::PictureBox& picture() { return workshop_.form.PictureNoDX; }
+
+  void take(const ObjLine& line) {
+    const front::FormOBJ& form = workshop_.form;
+    if (line.kind == LineKind::group && form.OptionColorGroups.value()) {
+      fill_ = groupColours_.find(line.text).value_or(fill_);
+    } else if (line.kind == LineKind::material && form.OptionColorMaterials.value()) {
+      fill_ = materialColours_.find(line.text).value_or(fill_);
+    } else if (line.kind == LineKind::vertex) {
+      vertices_.add(cut_(line.text));
+    } else if (line.kind == LineKind::face) {
+      readFaceTokens(line.text, indexes_);
+      draw(indexes_);
+    }
+  }
+
+  void draw(std::span<const std::size_t> indexes) {
+    corners_.clear();
+    if (indexes.empty()) return;
+    vertices_.firstCorner(indexes.front());  // it must be there, but does not reach the picture
+    for (const std::size_t index : indexes.subspan(1)) {
+      corners_.push_back(scale_.frontPoint(vertices_.laterCorner(index)));
+    }
+    if (workshop_.form.OptionNoColors.value()) fill_ = graphics::paletteColour(kPlainFill);
+    if (!corners_.empty()) picture().surface().polygon(corners_, fill_);
+  }
+
+  Workshop& workshop_;
+  ColourBook groupColours_;
+  ColourBook materialColours_;
+  ViewScale scale_;
+  FallBackVertices vertices_;
+  VertexCutter cut_;
+  front::Colour fill_ = front::kBlack;
+  std::vector<std::size_t> indexes_;
+  std::vector<graphics::Point> corners_;
+};
+
+void showWithout3D(Workshop& workshop) {
+  if (workshop.reading) return;
+  front::FormOBJ& form = workshop.form;
+  form.PictureObjViewer2.hide();
+  form.PictureOBJViewer.hide();
+  form.PictureNoDX.clear();
+  form.PictureNoDX.show();
+  const Reading reading(workshop);
+  workshop.session.hourglass(true);
+  FallBackPass(workshop).run(workshop.session.opening.LabelOBJFileName.caption());
+  workshop.session.hourglass(false);
+}
+
+}  // namespace
+
+void wireFallBackView(Workshop& workshop) {
+  workshop.form.released.add([&workshop](front::Mouse mouse) {
+    if (mouse.button == front::MouseButton::right) showWithout3D(workshop);
+  });
+}
+
+}  // namespace norvik::obj

@@ -1,0 +1,43 @@
+#include "obj/leaving.h"
+
+#include "obj/reset.h"
+#include "text/line_writer.h"
+
+namespace norvik::obj {
+
+namespace {
+
+constexpr std::string_view kNoteFile = "\\Notes.txt";
+
+/// Makes the file if there is none, whether there is a note or not.
+void appendNote(Workshop& workshop) {
+  front::Session& session = workshop.session;
+  const std::string path = session.opening.inProgramFolder(kNoteFile);
+  const std::string& note = workshop.form.TextNotes.text();
+  if (note.empty()) {
+    text::ignoringErrors([&] { session.disk.openForAppending(path); });
+    return;
+  }
+  text::LineWriter file(session.disk, path, text::LineWriter::Mode::append);
+  file.line("**** " + session.front.now(), " ****");
+  file.line("** " + session.opening.LabelOBJFileName.caption(), " **");
+  file.line(note);
+  file.close();
+  workshop.form.TextNotes.setText({});
+}
+
+void leave(Workshop& workshop) {
+  // Renamed groups and materials are to be saved here, in front of the notes.
+  appendNote(workshop);
+  ++workshop.departures;
+  workshop.spin.SpinStopped = true;
+  forgetMeshInView(workshop);
+}
+
+}  // namespace
+
+void wireLeaving(Workshop& workshop) {
+  workshop.form.unloading.add([&workshop] { leave(workshop); });
+}
+
+}  // namespace norvik::obj

@@ -1,0 +1,13 @@
+#pragma once
+// The end of the workshop's form.
+
+#include "obj/workshop.h"
+
+namespace norvik::obj {
+
+/// Hangs the leaving on the form's unloading. The notes of TextNotes are appended to "\Notes.txt"
+/// with the date and the mesh's path; a note that cannot be written keeps the form open. Then the
+/// map tools' scratch files and the mesh go, and a read that is under way ends.
+void wireLeaving(Workshop& workshop);
+
+}  // namespace norvik::obj
