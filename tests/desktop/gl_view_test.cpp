@@ -66,8 +66,7 @@ Vertex at(float x, float y, float z) {
   return {.x = x, .y = y, .z = z};
 }
 
-/// Three triangles of the plane z = 0: the right half of what the eye sees, and above the middle a
-/// corner at the left.
+/// A triangle of the plane z = 0 that covers the right half of what the eye sees.
 const std::vector<Vertex> kRightHalf{at(0, -9, 0), at(0, 12, 0), at(9, 2.5F, 0)};
 
 TEST_F(GlViewTest, PaintsTheMeshWhereTheMatricesPutIt) {

@@ -7,8 +7,7 @@
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
+#include <QToolButton>
 #include <QtTest>
 
 namespace norvik::desktop {
@@ -43,9 +42,12 @@ class MeshWindowTest : public Bench<front::FormOBJ> {
 };
 
 TEST_F(MeshWindowTest, EveryControlIsThereAndSeenExactlyWhenItSaysSo) {
+  // Wide enough for all tools at once.
+  workshop.resize(2400, 1000);
   for (const bool visible : {false, true}) {
     for (front::Control* control : form.controls()) control->setVisible(visible);
     dispatcher.sync();
+    QTest::qWait(20);
     for (const front::Control* control : form.controls()) {
       const auto* widget = workshop.findChild<QWidget*>(QString::fromStdString(control->name()));
       ASSERT_NE(widget, nullptr) << control->name();

@@ -2,10 +2,12 @@
 //
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it.
 
 #include "desktop/operator.h"
+#include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
 
 #include <QAction>
@@ -209,6 +211,10 @@ int main(int count, char** arguments) {
     if (words[1] == u"copy"_s) copyMorph(hand, drive);
     if (words[1] == u"time"_s) {
       measure(program, words.value(4).toStdString(), started);
+      QApplication::quit();
+    }
+    if (words[1] == u"spin"_s) {
+      desktop::timeSpin(words.value(4).toInt());
       QApplication::quit();
     }
     if (words[1] == u"pictures"_s) takePictures(program, hand, drive, words.value(4));
