@@ -95,7 +95,7 @@ TEST_F(ShowEvent, OfADrawingSurfaceHasItsSizeAndCheckSum) {
             state("CanvasPad", "drawing surface", R"(,"pixels":[4,3],"crc":429457753)"));
   pad.CanvasPad.surface().setPixel({2, 1}, graphics::colourOf(12, 34, 56));
   EXPECT_EQ(shown("CanvasPad"),
-            state("CanvasPad", "drawing surface", R"(,"pixels":[4,3],"crc":4273862398)"));
+            state("CanvasPad", "drawing surface", R"(,"pixels":[4,3],"crc":4181973498)"));
   pad.CanvasPad.surface().resize(0, 3);
   EXPECT_EQ(shown("CanvasPad"),
             state("CanvasPad", "drawing surface", R"(,"pixels":[0,3],"crc":0)"));

@@ -19,7 +19,8 @@ text::Disk& prepared(text::Disk& disk, const std::string& driveC) {
 
 ScriptedWorkbench::ScriptedWorkbench(text::HostOps& host, const std::string& driveC)
     : disk_(host),
-      workbench_(frontEnd_, prepared(disk_, driveC), settings_, kProgramFolder, std::string{}) {
+      workbench_(frontEnd_, prepared(disk_, driveC), settings_, kProgramFolder, std::string{}),
+      commands_(workbench_, frontEnd_, transcript_, outcome_, host) {
   frontEnd_.setUnload(
       [this](front::Form& form) { session().deliver([this, &form] { session().unload(form); }); });
 }

@@ -39,7 +39,7 @@ class ScriptedWorkbench {
   headless::Outcome outcome_;
   headless::ScriptFrontEnd frontEnd_{transcript_, outcome_, {}};
   workbench::Workbench workbench_;
-  headless::Commands commands_{workbench_, frontEnd_, transcript_, outcome_};
+  headless::Commands commands_;
 };
 
 }  // namespace norvik::tests
