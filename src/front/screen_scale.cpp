@@ -24,11 +24,8 @@ void scale(Form& form, float x, float y) {
 }
 
 void fitSurface(PictureBox& picture) {
-  Box box = picture.box();
-  box.width = std::round(box.width);
-  box.height = std::round(box.height);
-  picture.setBox(box);
-  picture.surface().resize(static_cast<int>(box.width), static_cast<int>(box.height));
+  picture.resize(static_cast<int>(std::lround(picture.box().width)),
+                 static_cast<int>(std::lround(picture.box().height)));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "obj/obj_number.h"
 #include "text/columns.h"
+#include "text/number_text.h"
 
 #include <algorithm>
 
@@ -14,7 +15,7 @@ constexpr std::size_t kFirstToken = 3;
 std::size_t indexOf(std::string_view token) {
   if (token.front() != '-') return leadingIndex(token);
   // "-1" becomes 0 and "-3" becomes -2: neither is a vertex. A lone minus becomes 1.
-  return leadingNumber(token) + 1 > 0.5 ? 1 : 0;
+  return leadingIndex(text::numberText(static_cast<float>(leadingNumber(token) + 1)));
 }
 
 }  // namespace

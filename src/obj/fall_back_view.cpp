@@ -84,8 +84,7 @@ void showWithout3D(Workshop& workshop) {
   front::FormOBJ& form = workshop.form;
   form.PictureObjViewer2.hide();
   form.PictureOBJViewer.hide();
-  form.PictureNoDX.surface().clear();
-  form.PictureNoDX.refresh();
+  form.PictureNoDX.clear();
   form.PictureNoDX.show();
   const Reading reading(workshop);
   workshop.session.hourglass(true);

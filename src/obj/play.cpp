@@ -30,7 +30,7 @@ class Hand {
   void move(front::Mouse mouse) {
     if (mouse.button == front::MouseButton::right) {
       picture_.surface().dot(pointOf(mouse), graphics::paletteColour(kDotColour));
-    } else if (corner_) {
+    } else if (mouse.button == front::MouseButton::left && corner_) {
       toggleBand();
       end_ = pointOf(mouse);
       toggleBand();
@@ -90,8 +90,7 @@ void play(Workshop& workshop) {
   form.ImageRDS.hide();
   form.LabelBoss.setCaption("Boss Button");
   form.LabelPlay.setCaption("PLAY");
-  form.PictureZoom.surface().clear();
-  form.PictureZoom.refresh();
+  form.PictureZoom.clear();
   form.PictureZoom.show();
 }
 

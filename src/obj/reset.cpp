@@ -44,10 +44,7 @@ void forgetMeshInView(Workshop& workshop) {
   }
   form.OptionShowPolys.setValue(true);
   for (front::Control* control : form.controls()) {
-    auto* picture = dynamic_cast<front::PictureBox*>(control);
-    if (picture == nullptr) continue;
-    picture->surface().clear();
-    picture->refresh();
+    if (auto* picture = dynamic_cast<front::PictureBox*>(control)) picture->clear();
   }
   clearView(workshop);
   workshop.spin.SpinSpeed = 1;
