@@ -180,7 +180,8 @@ void closeWhileItSpins(desktop::Program& program, desktop::Operator& hand, const
     desktop::giveUp("the workshop is still there");
   std::cout << "the workshop is closed\n";
   spin([&] { program.mainWindow().close(); });
-  if (program.session().opening.loaded()) desktop::giveUp("the program is still there");
+  const auto gone = [&] { return !program.session().opening.loaded(); };
+  if (!QTest::qWaitFor(gone, 10000)) desktop::giveUp("the program is still there");
   std::cout << "the program is closed\n";
 }
 
