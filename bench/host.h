@@ -1,5 +1,7 @@
 #pragma once
-// The real host, less the flush to the medium: the tools that a pass is held against do not flush.
+// The real host, less the flush to the medium and the finished file's taking of its name: the tools
+// that a pass is held against do neither, and a file system may flush when one file takes the place
+// of another.
 
 #include "text/host.h"
 
@@ -22,9 +24,7 @@ class UnflushedHost final : public text::HostOps {
   int readLink(const std::string& name, std::string& target) override {
     return host_->readLink(name, target);
   }
-  int renameOver(const std::string& from, const std::string& to) override {
-    return host_->renameOver(from, to);
-  }
+  int renameOver(const std::string&, const std::string&) override { return 0; }
   int renameNew(const std::string& from, const std::string& to) override {
     return host_->renameNew(from, to);
   }

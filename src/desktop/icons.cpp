@@ -27,6 +27,7 @@ class InkEngine : public QIconEngine {
     drawing.replace("#010203", ink.name().toLatin1());
     drawing.replace("#040506", accent.name().toLatin1());
     QSvgRenderer renderer(drawing);
+    renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     if (mode == QIcon::Disabled) painter->setOpacity(0.5);
     renderer.render(painter, rect);
   }

@@ -8,6 +8,7 @@
 #include "desktop/bind/surface_binding.h"
 #include "desktop/bind/text_binding.h"
 #include "desktop/bind/timer_binding.h"
+#include "desktop/cover_picture.h"
 #include "desktop/elided_label.h"
 #include "desktop/icons.h"
 #include "desktop/pictures.h"
@@ -115,6 +116,11 @@ SurfaceView& Maker::surface(front::PictureBox& picture, QWidget& parent) {
 
 void Maker::shape(front::Shape& shape, QFrame& frame) {
   bindings_.add(std::make_unique<ShapeBinding>(dispatcher_, shape, frame));
+}
+
+void Maker::cover(front::Image& image, QWidget& parent, const QString& picture) {
+  auto* cover = new CoverPicture(picture, parent);
+  bindings_.add(std::make_unique<WidgetBinding>(dispatcher_, image, *cover));
 }
 
 void Maker::timer(front::Timer& timer) {

@@ -48,6 +48,8 @@ class Maker {
   /// A drawing surface, with its name for those who listen.
   SurfaceView& surface(front::PictureBox& picture, QWidget& parent);
   void shape(front::Shape& shape, QFrame& frame);
+  /// An image that covers its parent with a picture of the program's own.
+  void cover(front::Image& image, QWidget& parent, const QString& picture);
   void timer(front::Timer& timer);
 
   /// Calls back whenever one of the controls changed, and once at once.

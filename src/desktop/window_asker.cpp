@@ -79,7 +79,9 @@ front::Answer WindowAsker::box(const QString& title, const QString& text, int st
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setEscapeButton(escapeOf(style));
-  return answerOf(box.exec());
+  const int button = box.exec();
+  // A box that goes away unanswered, with its window, says what the escape key says.
+  return answerOf(button == QDialog::Rejected ? int{escapeOf(style)} : button);
 }
 
 std::optional<QString> WindowAsker::file(const File& file) {

@@ -1,5 +1,6 @@
 #include "figure/space_chopper.h"
 
+#include "text/copy_bytes.h"
 #include "text/line_scan.h"
 #include "text/rewrite_pass.h"
 
@@ -50,7 +51,7 @@ class LeadingBlanks {
     if (size_ > 0 && kept_[size_ - 1] == '\r') kept_[size_++] = '\n';
   }
   void keep(std::size_t count) {
-    rest_.copy(kept_.data() + size_, count);
+    text::copyBytes(rest_.substr(0, count), kept_.data() + size_);
     rest_.remove_prefix(count);
     size_ += count;
   }

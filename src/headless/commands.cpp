@@ -3,7 +3,6 @@
 #include "front/picture_box.h"
 #include "graphics/bmp.h"
 #include "headless/control_state.h"
-#include "text/classic_errors.h"
 #include "text/columns.h"
 
 #include <charconv>
@@ -372,11 +371,10 @@ void Commands::savePicture(ScriptLine& line) {
   if (picture == nullptr) throw Refused{control.name() + " is no drawing surface"};
   const std::string name = line.rest();
   if (name.empty()) throw Refused{"no file"};
-  orRefuse([&] {
-    std::unique_ptr<text::HostFile> file;
-    text::raise(host_.open(name, text::HostOpenMode::write, file));
-    text::raise(file->write(graphics::bmpBytes(picture->surface())));
-  });
+  std::unique_ptr<text::HostFile> file;
+  int error = host_.open(name, text::HostOpenMode::write, file);
+  if (error == 0) error = file->write(graphics::bmpBytes(picture->surface()));
+  if (error != 0) throw Refused{"cannot write '" + name + "'"};
 }
 
 void Commands::fail(const ScriptLine& line, const std::string& why) {

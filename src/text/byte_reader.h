@@ -19,7 +19,15 @@ class ByteReader {
   /// Up to `count` bytes; fewer at the end of the file, none behind it. Good until the next call.
   std::string_view read(std::size_t count);
 
+  /// As many whole blocks of `count` bytes as are at hand, one at the least; what is left at the
+  /// end of the file, nothing behind it. Good until the next call.
+  std::string_view readBlocks(std::size_t count);
+
  private:
+  /// Has `count` bytes at hand, or all that the file still has.
+  void provide(std::size_t count);
+  std::string_view take(std::size_t count);
+
   std::unique_ptr<HostFile> file_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;

@@ -32,6 +32,7 @@ bool LineReader::refill() {
     end_ -= begin_;
     begin_ = 0;
   }
+  forgetEnds();
   if (end_ == buffer_.size()) buffer_.resize(buffer_.size() * 2);
   std::size_t got = 0;
   raise(file_->read(buffer_.data() + end_, buffer_.size() - end_, got));
@@ -69,6 +70,7 @@ std::string_view LineReader::anyLine() {
   const auto result = unread().substr(0, length);
   begin_ += length;
   passLineEnd();
+  forgetEnds();
   atLineStart_ = true;
   return result;
 }
@@ -116,6 +118,7 @@ std::string_view LineReader::anyField() {
   }
   const auto result = unread().substr(0, length);
   begin_ += behind;
+  forgetEnds();
   return result;
 }
 
@@ -160,6 +163,7 @@ void LineReader::handOnLines(const LineFilter& filter, const Sink& sink) {
     }
     if (length > 0) sink(block.substr(0, length));
     begin_ += length;
+    forgetEnds();
     if (hit < block.size()) break;
   }
 }

@@ -5,6 +5,7 @@
 #include "text/line_filter.h"
 #include "text/line_scan.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -32,14 +33,23 @@ class LineReader {
   /// The next line without its ending, blanks and tabs intact. Behind a field read that stopped at
   /// a comma it is the rest of that line.
   std::string_view line() {
-    if (end_ - begin_ <= ByteChunk::kSize) return anyLine();
+    while (ends_ == 0) {
+      if (end_ - lookedTo_ <= ByteChunk::kSize) return anyLine();
+      ends_ = ByteChunk(buffer_.data() + lookedTo_).matching('\r', '\n');
+      lookedTo_ += ByteChunk::kSize;
+    }
     const char* start = buffer_.data() + begin_;
-    const std::uint64_t ends = ByteChunk(start).matching('\r', '\n');
-    if (ends == 0) return anyLine();
-    const std::size_t length = firstOf(ends);
-    begin_ += length + lineEndSize(start + length);
+    const char* end = buffer_.data() + lookedTo_ - ByteChunk::kSize + firstOf(ends_);
+    ends_ &= ends_ - 1;
+    begin_ = static_cast<std::size_t>(end - buffer_.data()) + 1;
+    if (end[0] == '\r' && end[1] == '\n') {
+      // The LF is the next mark, or the first byte behind the chunk.
+      ends_ &= ends_ - 1;
+      ++begin_;
+      lookedTo_ = std::max(lookedTo_, begin_);
+    }
     atLineStart_ = true;
-    return {start, length};
+    return {start, static_cast<std::size_t>(end - start)};
   }
 
   /// The next field: leading blanks and tabs are skipped, the field ends in front of a comma or a
@@ -56,6 +66,7 @@ class LineReader {
     if (ends == 0 || start[first] == '"') return anyField();
     const std::size_t end = firstOf(ends);
     begin_ += end + lineEndSize(start + end);
+    forgetEnds();
     atLineStart_ = start[end] != ',';
     return {start + first, end - first};
   }
@@ -82,6 +93,11 @@ class LineReader {
  private:
   std::string_view unread() const { return {buffer_.data() + begin_, end_ - begin_}; }
   bool refill();
+  /// Lets line() look for line ends anew: the next read or the bytes have moved.
+  void forgetEnds() {
+    ends_ = 0;
+    lookedTo_ = begin_;
+  }
   // The reads for lines and fields that are long, quoted or at the end of the bytes at hand.
   std::string_view anyLine();
   std::string_view anyField();
@@ -94,6 +110,9 @@ class LineReader {
   std::vector<char> buffer_;
   std::size_t begin_ = 0;  ///< of the unread bytes in the buffer
   std::size_t end_ = 0;
+  // Lines are shorter than a chunk as a rule: one look at a chunk tells the ends of several.
+  std::uint64_t ends_ = 0;          ///< marks of the line ends in the chunk in front of lookedTo_
+  std::size_t lookedTo_ = 0;        ///< how far line() has looked for line ends
   std::size_t wholeEnd_ = 0;        ///< of the last whole line; 0 until it was looked for
   std::uint64_t filePosition_ = 0;  ///< of the buffer's first byte
   bool fileEnded_ = false;

@@ -61,7 +61,7 @@ void LineWriter::longLine(std::string_view text) {
 }
 
 void LineWriter::line(std::string_view first, std::string_view second) {
-  bytes(first);
+  if (!first.empty()) bytes(first);
   line(second);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 // The writer of figure text.
 
+#include "text/copy_bytes.h"
 #include "text/disk.h"
 
-#include <cstring>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -53,7 +53,7 @@ class LineWriter {
   std::size_t free() const { return kBlockSize - size_; }
   /// Adds bytes for which there is room.
   void put(std::string_view bytes) {
-    if (!bytes.empty()) std::memcpy(held_.data() + size_, bytes.data(), bytes.size());
+    copyBytes(bytes, held_.data() + size_);
     size_ += bytes.size();
   }
 

@@ -13,6 +13,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,7 @@ class ScriptedAsker : public Asker {
   std::deque<front::Answer> answers;
   std::deque<std::optional<QString>> paths;
   std::optional<front::Colour> chosenColour;
+  std::function<bool(QPrinter&)> setUpPrinter;
   std::function<void()> whileAsking;
 
   front::Answer box(const QString& title, const QString& text, int style) override {
@@ -49,7 +51,7 @@ class ScriptedAsker : public Asker {
     return path;
   }
   std::optional<front::Colour> colour(front::Colour) override { return chosenColour; }
-  bool printer(QPrinter&) override { return false; }
+  bool printer(QPrinter& printer) override { return setUpPrinter && setUpPrinter(printer); }
 };
 
 /// A folder of the test's own, gone when the test is.

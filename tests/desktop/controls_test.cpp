@@ -69,6 +69,17 @@ TEST_F(ControlsTest, AControlIsSeenAndReachedExactlyWhenItSaysSo) {
   EXPECT_EQ(label.toolTip(), "a tip");
 }
 
+TEST_F(ControlsTest, ADisabledPictureTakesNoClick) {
+  int clicks = 0;
+  form.Trash.pressed.add([&](front::Mouse) { ++clicks; });
+  form.Trash.clicked.add([&] { ++clicks; });
+  auto& button = show<QToolButton>(form.Trash);
+  form.Trash.setEnabled(false);
+  dispatcher.sync();
+  QTest::mouseClick(&button, Qt::LeftButton);
+  EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(ControlsTest, AnEditedPathIsRedInBothThemes) {
   auto& label = show<QLabel>(form.Name);
   form.Name.setFore(front::kPathEdited);

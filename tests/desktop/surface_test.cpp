@@ -84,7 +84,7 @@ TEST_F(SurfaceTest, EachPixelIsShownAsItIs) {
 
 TEST_F(SurfaceTest, ADrawingComesOnViewWhenItIsRefreshed) {
   Paints paints(*view);
-  QTRY_VERIFY(window.isVisible());
+  dispatcher.sync();
   QTest::qWait(50);
   paints.count = 0;
   form.Front.surface().line({0, 0}, {39, 29}, 0);

@@ -2,10 +2,13 @@
 //
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
+//        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it.
 
 #include "desktop/operator.h"
+#include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
 
 #include <QAction>
@@ -46,9 +49,10 @@ class Photographer {
       : program_(program), folder_(std::move(folder)) {}
 
   /// The window with whatever lies over it, as it is on the screen.
-  void take(const QString& name) const {
+  void take(const QString& name) const { take(name, program_.mainWindow()); }
+  void take(const QString& name, const QWidget& window) const {
     QTest::qWait(150);
-    const QRect place = program_.mainWindow().frameGeometry();
+    const QRect place = window.frameGeometry();
     QApplication::primaryScreen()
         ->grabWindow(0, place.x(), place.y(), place.width(), place.height())
         .save(folder_ + u'/' + name + u".png"_s, "PNG", 0);
@@ -61,6 +65,43 @@ class Photographer {
 
 void chooseTheme(desktop::Program& program, const QString& name) {
   program.mainWindow().findChild<QAction*>(u"Theme."_s + name)->trigger();
+}
+
+/// The mesh workshop in all its views. What is done while the mesh spins is done by a timer: the
+/// key that starts the spin comes back when it is over.
+void takeWorkshopPictures(desktop::Program& program, desktop::Operator& hand,
+                          const Photographer& camera) {
+  hand.click(u"PictureOBJView"_s);
+  QWidget& window = hand.find(u"FormOBJ"_s);
+  window.move(0, 0);
+  camera.take(u"workshop"_s, window);
+  hand.click(u"OptionColorGroups"_s);
+  hand.click(u"LabelView"_s);
+  camera.take(u"workshop-front"_s, window);
+  hand.click(u"OptionSideView"_s);
+  camera.take(u"workshop-side"_s, window);
+  hand.click(u"OptionTopView"_s);
+  camera.take(u"workshop-top"_s, window);
+
+  QWidget& views = hand.find(u"ViewStack"_s);
+  QTest::keyClick(&views, Qt::Key_Space);
+  QTimer::singleShot(1500, &window, [&] {
+    camera.take(u"workshop-spin"_s, window);
+    QTest::keyClick(&views, Qt::Key_Space);
+  });
+  QTest::keyClick(&views, Qt::Key_Space);
+
+  hand.click(u"OptionFrontView"_s);
+  hand.click(u"LabelView"_s);
+  hand.click(u"LabelHotKeys"_s);
+  chooseTheme(program, u"dark"_s);
+  camera.take(u"workshop-dark"_s, window);
+  hand.click(u"LabelBoss"_s);
+  camera.take(u"workshop-boss"_s, window);
+  hand.click(u"LabelPlay"_s);
+  chooseTheme(program, u"light"_s);
+  window.close();
+  QTest::qWait(50);
 }
 
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
@@ -114,8 +155,33 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"mesh"_s);
   chooseTheme(program, u"dark"_s);
   camera.take(u"mesh-dark"_s);
+  chooseTheme(program, u"light"_s);
+  takeWorkshopPictures(program, hand, camera);
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
+}
+
+/// Spins a mesh, closes the workshop in the middle of it, spins again, and leaves the program in
+/// the middle of that.
+void closeWhileItSpins(desktop::Program& program, desktop::Operator& hand, const QString& drive) {
+  constexpr int kMeanwhile = 300;  // milliseconds
+  hand.willChoose(drive + u"/Runtime/Geometries/Tilda/tilda.obj"_s);
+  hand.shortcut(Qt::Key_O, Qt::ControlModifier);
+  const auto spin = [&](const std::function<void()>& meanwhile) {
+    hand.click(u"PictureOBJView"_s);
+    hand.click(u"LabelView"_s);
+    QWidget& views = hand.find(u"ViewStack"_s);
+    QTest::keyClick(&views, Qt::Key_Space);
+    QTimer::singleShot(kMeanwhile, &views, meanwhile);
+    QTest::keyClick(&views, Qt::Key_Space);
+  };
+  spin([&] { hand.find(u"FormOBJ"_s).close(); });
+  if (program.session().findForm("FormOBJ")->loaded())
+    desktop::giveUp("the workshop is still there");
+  std::cout << "the workshop is closed\n";
+  spin([&] { program.mainWindow().close(); });
+  if (program.session().opening.loaded()) desktop::giveUp("the program is still there");
+  std::cout << "the program is closed\n";
 }
 
 /// The resident memory of this process in megabytes.
@@ -169,6 +235,11 @@ int main(int count, char** arguments) {
     if (words[1] == u"copy"_s) copyMorph(hand, drive);
     if (words[1] == u"time"_s) {
       measure(program, words.value(4).toStdString(), started);
+      QApplication::quit();
+    }
+    if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);
+    if (words[1] == u"spin"_s) {
+      desktop::timeSpin(words.value(4).toInt());
       QApplication::quit();
     }
     if (words[1] == u"pictures"_s) takePictures(program, hand, drive, words.value(4));

@@ -21,12 +21,24 @@ std::size_t allocations() {
 
 }  // namespace norvik::tests
 
-// The counted operators of the whole test program. The other forms come down to these.
+// The counted operators of the whole test program, in every form but the aligned ones.
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  ++count();
+  return std::malloc(size == 0 ? 1 : size);
+}
 
 void* operator new(std::size_t size) {
-  ++count();
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
+  if (void* memory = operator new(size, std::nothrow)) return memory;
   throw std::bad_alloc{};
+}
+
+void* operator new[](std::size_t size) {
+  return operator new(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t& nothrow) noexcept {
+  return operator new(size, nothrow);
 }
 
 void operator delete(void* memory) noexcept {
@@ -34,5 +46,21 @@ void operator delete(void* memory) noexcept {
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+void operator delete(void* memory, const std::nothrow_t&) noexcept {
+  std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept {
+  std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+
+void operator delete[](void* memory, const std::nothrow_t&) noexcept {
   std::free(memory);
 }

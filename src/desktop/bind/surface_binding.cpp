@@ -18,7 +18,7 @@ void SurfaceBinding::refresh() {
 
 bool SurfaceBinding::eventFilter(QObject* watched, QEvent* event) {
   // Who draws fast presses twice within a double click's time.
-  const bool second = event->type() == QEvent::MouseButtonDblClick;
+  const bool second = event->type() == QEvent::MouseButtonDblClick && view_.isEnabled();
   if (second && !picture_.doubleClicked.hasHandlers()) {
     return mousePressed(*static_cast<QMouseEvent*>(event));
   }

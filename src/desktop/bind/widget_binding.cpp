@@ -59,7 +59,10 @@ void WidgetBinding::refresh() {
 }
 
 bool WidgetBinding::eventFilter(QObject* watched, QEvent* event) {
-  if (!widget_ || refreshing()) return QObject::eventFilter(watched, event);
+  // A filter sees what is meant for a disabled widget too.
+  if (!widget_ || !widget_->isEnabled() || refreshing()) {
+    return QObject::eventFilter(watched, event);
+  }
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       doubleClick_ = false;

@@ -34,7 +34,7 @@ void main() {
   if (shaded) {
     vec3 normal = normalize(cross(dFdx(seen), dFdy(seen)));
     vec3 lamp = normalize(vec3(-0.35, 0.55, -1.0));
-    light = 0.25 + 0.6 * abs(dot(normal, lamp)) + 0.15 * abs(normal.z);
+    light = 0.35 + 0.5 * abs(dot(normal, lamp)) + 0.15 * abs(normal.z);
   }
   colour = vec4(diffuse * light, 1.0);
 })";
@@ -51,6 +51,7 @@ GlView::GlView(GlDevice& device, QWidget* parent) : QOpenGLWidget(parent), devic
 }
 
 GlView::~GlView() {
+  disconnect(context_);
   release();
 }
 
@@ -58,7 +59,8 @@ void GlView::initializeGL() {
   // A widget that has come into another window begins anew.
   held_ = 0;
   capacity_ = 0;
-  connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { release(); });
+  disconnect(context_);
+  context_ = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { release(); });
   works_ = initializeOpenGLFunctions();
   if (!works_) return;
   program_ = std::make_unique<QOpenGLShaderProgram>();

@@ -48,6 +48,7 @@ class GlView : public QOpenGLWidget, protected QOpenGLFunctions_3_3_Core {
   };
 
   GlDevice& device_;
+  QMetaObject::Connection context_;
   bool works_ = false;
   std::unique_ptr<QOpenGLShaderProgram> program_;
   Places places_;

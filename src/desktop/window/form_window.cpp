@@ -91,9 +91,8 @@ void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
   const bool right = event->button() == Qt::RightButton;
   if (!form_.released.hasHandlers() || (!right && event->button() != Qt::LeftButton)) return;
   maker_.dispatcher().raise(
-      form_.released,
-      front::Mouse{right ? front::MouseButton::right : front::MouseButton::left, place.x(),
-                   place.y()});
+      form_.released, front::Mouse{right ? front::MouseButton::right : front::MouseButton::left,
+                                   place.x(), place.y()});
 }
 
 }  // namespace norvik::desktop

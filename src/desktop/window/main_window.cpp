@@ -143,7 +143,7 @@ void MainWindow::sync() {
 void MainWindow::chooseTheme(Theme theme) {
   QApplication::setPalette(paletteOf(theme, system_));
   // The colours that mean something have their shade in each theme.
-  maker_.bindings().updateAll(opening_);
+  for (front::Form* form : session_.forms()) maker_.bindings().updateAll(*form);
   text::ignoringErrors([&] { session_.settings.set(kWindowSection, kThemeKey, themeName(theme)); });
 }
 

@@ -1,0 +1,113 @@
+#include "desktop/bind/text_binding.h"
+#include "desktop/window/headings.h"
+#include "desktop/window/mesh_panes.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <initializer_list>
+
+namespace norvik::desktop {
+
+namespace {
+
+/// The controls of one side: groups, or materials.
+struct Side {
+  front::CommandButton& command;
+  front::TextBox& listing;
+  front::ListBox& names;
+  front::ListBox& saved;
+  front::TextBox& newName;
+  front::CheckBox& save;
+  const char* word;
+};
+
+QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, const char* name) {
+  auto* page = new QPlainTextEdit(&parent);
+  page->setAccessibleName(QString::fromLatin1(name));
+  maker.bindings().add(std::make_unique<PageBinding>(maker.dispatcher(), box, *page));
+  return *page;
+}
+
+QVBoxLayout* makeSide(Maker& maker, const Side& side, QWidget& parent) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(4);
+  column->addWidget(maker.make(side.command, parent));
+  const QString word = QString::fromLatin1(side.word);
+  column->addWidget(&makePage(maker, side.listing, parent, side.word), 1);
+  for (front::ListBox* list : {&side.names, &side.saved}) {
+    auto& view = maker.list(*list, parent);
+    view.setAccessibleName(word);
+    column->addWidget(&view, 1);
+  }
+  auto& entry = maker.line(side.newName, parent);
+  entry.setPlaceholderText(QStringLiteral("New name"));
+  entry.setAccessibleName(QStringLiteral("New name"));
+  column->addWidget(&entry);
+  column->addWidget(maker.make(side.save, parent));
+  return column;
+}
+
+void addSizes(Maker& maker, front::FormOBJ& form, QWidget& parent, QVBoxLayout& column) {
+  for (front::TextBox* box : {&form.TextMapSize, &form.TextMapSizeSec}) {
+    auto& entry = maker.line(*box, parent);
+    entry.setPlaceholderText(QStringLiteral("Map size"));
+    entry.setAccessibleName(QStringLiteral("Map size"));
+    column.addWidget(&entry);
+  }
+}
+
+}  // namespace
+
+QWidget* makeMeshLists(Maker& maker, front::FormOBJ& form, QWidget& parent) {
+  constexpr int kNotes = 96;
+  auto* panel = new QWidget(&parent);
+  auto* column = new QVBoxLayout(panel);
+  column->setContentsMargins(0, 0, 0, 0);
+
+  auto* keysHeading = new QLabel(QStringLiteral("Keys"), panel);
+  makeHeading(*keysHeading);
+  auto& keys = maker.list(form.ListHotKeys, *panel);
+  keys.setAccessibleName(QStringLiteral("Hot keys"));
+  keys.setFocusPolicy(Qt::TabFocus);
+  column->addWidget(keysHeading);
+  column->addWidget(&keys);
+  maker.watch({&form.ListHotKeys}, [keysHeading, &keys, &form] {
+    constexpr int kRoom = 10;
+    keys.setFixedHeight(form.ListHotKeys.count() * (keys.fontMetrics().height() + 5) + kRoom);
+    keysHeading->setVisible(form.ListHotKeys.visible());
+  });
+
+  auto* sides = new QHBoxLayout;
+  sides->addLayout(
+      makeSide(maker,
+               {form.CommandListGroups, form.RichTextBoxGroups, form.ListGroups,
+                form.ListGroupsSave, form.TextGrpRename, form.CheckSaveGroups, "Groups"},
+               *panel));
+  sides->addLayout(
+      makeSide(maker,
+               {form.CommandListMats, form.RichTextBoxMaterials, form.ListMaterials,
+                form.ListMaterialsSave, form.TextMatRename, form.CheckSaveMaterials, "Materials"},
+               *panel));
+  column->addLayout(sides, 1);
+  column->addWidget(maker.make(form.LabelRichRename, *panel), 0, Qt::AlignLeft);
+  addSizes(maker, form, *panel, *column);
+  column->addStretch();
+
+  auto* notesHeading = new QLabel(QStringLiteral("Notes"), panel);
+  makeHeading(*notesHeading);
+  auto& notes = makePage(maker, form.TextNotes, *panel, "Notes");
+  notes.setFixedHeight(kNotes);
+  notes.setPlaceholderText(QStringLiteral("Kept in Notes.txt when the window is closed"));
+  column->addWidget(notesHeading);
+  column->addWidget(&notes);
+  maker.watch({&form.TextNotes},
+              [notesHeading, &form] { notesHeading->setVisible(form.TextNotes.visible()); });
+  return panel;
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,20 @@
+#pragma once
+// The parts of the mesh workshop's window.
+
+#include "desktop/maker.h"
+#include "front/form_obj.h"
+
+class QToolBar;
+
+namespace norvik::desktop {
+
+/// The tools, in the order of the work: read, change, map, play.
+QToolBar* makeMeshTools(Maker& maker, front::FormOBJ& form, QWidget& parent);
+
+/// The options of the views.
+QWidget* makeMeshOptions(Maker& maker, front::FormOBJ& form, QWidget& parent);
+
+/// The lists of groups and materials, the notes, and what the tools ask for.
+QWidget* makeMeshLists(Maker& maker, front::FormOBJ& form, QWidget& parent);
+
+}  // namespace norvik::desktop

@@ -1,0 +1,118 @@
+#include "desktop/window/view_stack.h"
+
+#include "desktop/gl/gl_support.h"
+#include "desktop/gl/gl_view.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace norvik::desktop {
+
+namespace {
+
+/// The view in three dimensions of a desktop that has none: as blank as the tools expect it.
+class BlankView : public QWidget {
+ public:
+  explicit BlankView(QWidget* parent) : QWidget(parent) {
+    setAutoFillBackground(true);
+    QPalette white = palette();
+    white.setColor(QPalette::Window, Qt::white);
+    setPalette(white);
+  }
+};
+
+}  // namespace
+
+ViewStack::ViewStack(Maker& maker, front::FormOBJ& form, DesktopFrontEnd& frontEnd, QWidget* parent)
+    : QFrame(parent), form_(form), hint_(new QLabel(this)) {
+  constexpr int kLeast = 280;
+  setObjectName(QStringLiteral("ViewStack"));
+  setFrameStyle(QFrame::StyledPanel);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Base);
+  setMinimumSize(kLeast, kLeast);
+  setFocusPolicy(Qt::StrongFocus);
+  setAccessibleName(QStringLiteral("Views of the mesh"));
+  hint_->setObjectName(QStringLiteral("ViewHint"));
+  hint_->setAlignment(Qt::AlignCenter);
+  hint_->setWordWrap(true);
+  hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+
+  view3D_ = &make3DView(maker, form.PictureObjViewer2, frontEnd);
+  for (front::Control* control : form.controls()) {
+    auto* picture = dynamic_cast<front::PictureBox*>(control);
+    if (picture == nullptr || picture == &form.PictureObjViewer2) continue;
+    addView(maker.surface(*picture, *this));
+    maker.watch({picture}, [this] { tellWhatToDo(); });
+  }
+  addView(*maker.make(form.ImageSaveMap, *this));
+  maker.cover(form.ImageBoss, *this, QStringLiteral("boss_sheet"));
+  maker.watch({&form.PictureObjViewer2, &form.LabelView, &form.ImageBoss, &form.CommandListGroups},
+              [this] { tellWhatToDo(); });
+}
+
+QWidget& ViewStack::make3DView(Maker& maker, front::PictureBox& picture,
+                               DesktopFrontEnd& frontEnd) {
+  QWidget* view = nullptr;
+  if (glSupport().present) {
+    view = new GlView(frontEnd.glDevice(picture), this);
+  } else {
+    view = new BlankView(this);
+  }
+  maker.bindings().add(std::make_unique<WidgetBinding>(maker.dispatcher(), picture, *view));
+  view->setAccessibleName(QStringLiteral("The mesh in 3D"));
+  view->setContextMenuPolicy(Qt::NoContextMenu);
+  addView(*view);
+  return *view;
+}
+
+void ViewStack::addView(QWidget& view) {
+  // A view that goes must not pass the keys on to the next button.
+  view.setFocusPolicy(Qt::ClickFocus);
+  view.setFocusProxy(this);
+  views_.push_back(&view);
+}
+
+QSize ViewStack::sizeHint() const {
+  const front::Box& box = form_.PictureObjViewer2.box();
+  const int frame = 2 * frameWidth();
+  return {static_cast<int>(box.width) + frame, static_cast<int>(box.height) + frame};
+}
+
+void ViewStack::resizeEvent(QResizeEvent* event) {
+  QFrame::resizeEvent(event);
+  place();
+}
+
+void ViewStack::place() {
+  const QRect area = contentsRect();
+  for (QWidget* view : views_) view->setGeometry(area);
+  const int side = std::min(area.width(), area.height());
+  QRect square(0, 0, side, side);
+  square.moveCenter(area.center());
+  view3D_->setGeometry(square);
+  constexpr int kMargin = 24;
+  hint_->setGeometry(area.adjusted(kMargin, kMargin, -kMargin, -kMargin));
+}
+
+/// The mesh is read once its lists can be asked for.
+void ViewStack::tellWhatToDo() {
+  const auto& controls = form_.controls();
+  const bool seen = std::any_of(controls.begin(), controls.end(), [this](const auto* control) {
+    const bool view = control->kind() == front::ControlKind::drawingSurface;
+    return view && control != &form_.PictureObjViewer2 && control->visible();
+  });
+  const bool read = form_.CommandListGroups.enabled();
+  const bool blank = !seen && (!read || !form_.PictureObjViewer2.visible());
+  hint_->setVisible(blank && form_.LabelView.visible() && !form_.ImageBoss.visible());
+  QPalette ink = palette();
+  if (form_.PictureObjViewer2.visible()) ink.setColor(QPalette::WindowText, QColor("#6c7684"));
+  hint_->setPalette(ink);
+  hint_->setText(read ? QStringLiteral("Space spins the mesh, View draws it again.")
+                      : QStringLiteral("View reads the mesh and draws it."));
+  hint_->raise();
+}
+
+}  // namespace norvik::desktop

@@ -1,0 +1,105 @@
+// The questions as the operator sees them.
+
+#include "desktop/window_asker.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace norvik::desktop {
+
+namespace {
+
+/// Does something with the dialog of this kind as soon as it is up.
+template <typename Dialog>
+void whenUp(const std::function<void(Dialog&)>& act) {
+  constexpr int kAgain = 10;  // milliseconds
+  auto* timer = new QTimer(qApp);
+  QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr) return;
+    timer->deleteLater();
+    timer->stop();
+    act(*dialog);
+  });
+  timer->start(kAgain);
+}
+
+struct BoxCase {
+  int style;
+  QMessageBox::Icon icon;
+  QMessageBox::StandardButtons buttons;
+  front::Answer onEscape;
+};
+
+class BoxTest : public testing::TestWithParam<BoxCase> {};
+
+TEST_P(BoxTest, HasTheIconAndTheButtonsOfItsStyle) {
+  const BoxCase& wanted = GetParam();
+  bool seen = false;
+  whenUp<QMessageBox>([&](QMessageBox& box) {
+    seen = true;
+    EXPECT_EQ(box.windowTitle(), QStringLiteral("Alert!"));
+    EXPECT_EQ(box.text(), QStringLiteral("a < b & c"));
+    EXPECT_EQ(box.textFormat(), Qt::PlainText);
+    EXPECT_EQ(box.icon(), wanted.icon);
+    EXPECT_EQ(box.standardButtons(), wanted.buttons);
+    box.reject();
+  });
+  WindowAsker asker;
+  EXPECT_EQ(asker.box(QStringLiteral("Alert!"), QStringLiteral("a < b & c"), wanted.style),
+            wanted.onEscape);
+  EXPECT_TRUE(seen);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Styles, BoxTest,
+    testing::Values(BoxCase{front::kOk, QMessageBox::NoIcon, QMessageBox::Ok, front::Answer::ok},
+                    BoxCase{front::kOkCancel | front::kExclamation, QMessageBox::Warning,
+                            QMessageBox::Ok | QMessageBox::Cancel, front::Answer::cancel},
+                    BoxCase{front::kYesNoCancel | front::kQuestion, QMessageBox::Question,
+                            QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                            front::Answer::cancel},
+                    BoxCase{front::kYesNo | front::kCritical, QMessageBox::Critical,
+                            QMessageBox::Yes | QMessageBox::No, front::Answer::no},
+                    BoxCase{front::kYesNo | front::kInformation, QMessageBox::Information,
+                            QMessageBox::Yes | QMessageBox::No, front::Answer::no}));
+
+TEST(WindowAskerTest, AClickOnAButtonIsTheAnswer) {
+  whenUp<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
+  WindowAsker asker;
+  EXPECT_EQ(asker.box(QString(), QString(), front::kYesNo), front::Answer::yes);
+}
+
+TEST(WindowAskerTest, AColourIsTheOneThatIsChosen) {
+  whenUp<QColorDialog>([](QColorDialog& dialog) {
+    EXPECT_EQ(dialog.currentColor(), QColor(10, 20, 30));
+    dialog.setCurrentColor(QColor(200, 100, 50));
+    dialog.accept();
+  });
+  WindowAsker asker;
+  EXPECT_EQ(asker.colour(front::colourOf(10, 20, 30)), front::colourOf(200, 100, 50));
+}
+
+TEST(WindowAskerTest, AColourMayBeLeft) {
+  whenUp<QColorDialog>([](QColorDialog& dialog) { dialog.reject(); });
+  WindowAsker asker;
+  EXPECT_EQ(asker.colour(0), std::nullopt);
+}
+
+TEST(WindowAskerTest, APrinterMayBeLeft) {
+  whenUp<QPrintDialog>([](QPrintDialog& dialog) { dialog.reject(); });
+  WindowAsker asker;
+  QPrinter printer;
+  EXPECT_FALSE(asker.printer(printer));
+}
+
+}  // namespace
+
+}  // namespace norvik::desktop
