@@ -10,6 +10,11 @@
 
 namespace {
 
+// A sixtieth of the form's own size, in twips: small surfaces cost less.
+constexpr float kScreenWidth = 256;
+constexpr float kScreenHeight = 192;
+constexpr double kView = 10;
+
 using norvik::fuzz::Desk;
 using norvik::fuzz::Input;
 using norvik::fuzz::MeshReading;
@@ -21,13 +26,6 @@ void choose(norvik::front::FormOBJ& form, const std::string& view, const std::st
   if (view == "t") form.OptionTopView.setValue(true);
   if (colours == "g") form.OptionColorGroups.setValue(true);
   if (colours == "m") form.OptionColorMaterials.setValue(true);
-}
-
-/// The views keep their scale, but small surfaces cost less.
-void shrink(norvik::front::FormOBJ& form) {
-  constexpr int kSize = 8;
-  for (norvik::front::PictureBox* view : form.flatViews()) view->surface().resize(kSize, kSize);
-  form.PictureNoDX.surface().resize(kSize, kSize);
 }
 
 void compare(const Desk& desk, const norvik::obj::Workshop& workshop, const MeshReading& wanted) {
@@ -61,16 +59,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto pieces = input.pieces(3);
   Desk desk("obj", input.text);
   desk.host.limitReads(norvik::fuzz::numberIn(pieces[0], 1, 4096));
+  desk.front.setScreen({kScreenWidth, kScreenHeight});
   norvik::front::FormOBJ form;
   norvik::obj::Workshop workshop(desk.session, form);
   norvik::obj::wireView(workshop);
   norvik::obj::wireSpin(workshop);
   desk.session.load(form);
   choose(form, pieces[1], pieces[2]);
-  shrink(form);
   desk.opening.LabelOBJFileName.setCaption(desk.path);
 
-  const MeshReading wanted = norvik::fuzz::plainMesh(input.text);
+  const MeshReading wanted = norvik::fuzz::plainMesh(input.text, kView);
   form.ReadAgain = true;
   require(Desk::run([&] { norvik::obj::View(workshop); }) == wanted.error, "the error");
   compare(desk, workshop, wanted);

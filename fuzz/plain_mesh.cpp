@@ -44,6 +44,8 @@ std::string record(std::string text, std::size_t length) {
 
 class Reader {
  public:
+  explicit Reader(double view) : view_(view) {}
+
   MeshReading reading;
 
   void line(std::string text) {
@@ -121,12 +123,12 @@ class Reader {
     }
   }
 
-  static void mustBeOnScreen(const std::array<float, 3>& at) {
+  void mustBeOnScreen(const std::array<float, 3>& at) const {
     for (const float coordinate : at) {
-      const double scaled = 100 * (static_cast<double>(coordinate) * 6);
+      const double scaled = view_ / 6 * (static_cast<double>(coordinate) * 6);
       constexpr double kMost = std::numeric_limits<int>::max();
-      if (!(std::fabs(scaled + 300) < kMost)) throw overflow;
-      if (!(std::fabs(600 - scaled) < kMost)) throw overflow;
+      if (!(std::fabs(scaled + view_ / 2) < kMost)) throw overflow;
+      if (!(std::fabs(view_ - scaled) < kMost)) throw overflow;
     }
   }
 
@@ -149,6 +151,8 @@ class Reader {
     }
     return slots;
   }
+
+  double view_;
 };
 
 std::string raised(const std::string& y) {
@@ -175,8 +179,8 @@ std::string raisedLine(const std::string& line) {
   return "v " + words[0] + raised(words[1]) + " " + rest;
 }
 
-MeshReading readLines(const std::vector<std::string>& lines) {
-  Reader reader;
+MeshReading readLines(const std::vector<std::string>& lines, double view) {
+  Reader reader(view);
   try {
     for (const std::string& line : lines) reader.line(line);
   } catch (const Error error) {
@@ -187,9 +191,9 @@ MeshReading readLines(const std::vector<std::string>& lines) {
 
 }  // namespace
 
-MeshReading plainMesh(const std::string& text) {
+MeshReading plainMesh(const std::string& text, double view) {
   const std::vector<std::string> lines = linesOf(text);
-  MeshReading reading = readLines(lines);
+  MeshReading reading = readLines(lines, view);
   if (reading.error != 0) return reading;
   if (reading.biggestY < 0.1F) {
     std::vector<std::string> raisedLines;
@@ -202,7 +206,7 @@ MeshReading plainMesh(const std::string& text) {
       reading.param = withLineEnds(raisedLines);
       return reading;
     }
-    reading = readLines(raisedLines);
+    reading = readLines(raisedLines, view);
     reading.param = withLineEnds(raisedLines);
   }
   if (reading.error == 0) reading.toldAsMorph = reading.faces.size() < 1000;

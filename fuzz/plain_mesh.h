@@ -27,7 +27,7 @@ struct MeshReading {
   bool toldAsMorph = false;
 };
 
-/// The reading of a text, with views of 600 by 600 pixels.
-MeshReading plainMesh(const std::string& text);
+/// The reading of a text, with square views of so many pixels.
+MeshReading plainMesh(const std::string& text, double view);
 
 }  // namespace norvik::fuzz

@@ -15,6 +15,7 @@ namespace norvik::fuzz {
 class QuietFrontEnd final : public front::FrontEnd {
  public:
   void answerWith(front::Answer answer) { answer_ = answer; }
+  void setScreen(front::Screen screen) { screen_ = screen; }
   const std::vector<std::string>& boxes() const { return boxes_; }
 
   front::Answer messageBox(std::string_view text, std::string_view, int style) override {
@@ -36,7 +37,7 @@ class QuietFrontEnd final : public front::FrontEnd {
   void show(front::Form&) override {}
   void showModal(front::Form&) override {}
   void unloaded(front::Form&) override {}
-  front::Screen screen() const override { return {}; }
+  front::Screen screen() const override { return screen_; }
   bool drawTile(front::Form&, int, int) override { return false; }
   int tileWidth() const override { return 1; }
   int tileHeight() const override { return 1; }
@@ -51,6 +52,7 @@ class QuietFrontEnd final : public front::FrontEnd {
 
  private:
   front::Answer answer_ = front::Answer::ok;
+  front::Screen screen_;
   std::vector<std::string> boxes_;
   std::map<front::PictureBox*, headless::RememberingDevice> devices_;
 };

@@ -18,12 +18,14 @@ class PumpedFile : public text::HostFile {
   int read(char* into, std::size_t size, std::size_t& got) override {
     const int error = file_->read(into, size, got);
     progress_.position += got;
+    host_.read_ = progress_;
     host_.tick(progress_);
     return error;
   }
   int write(std::string_view bytes) override {
     const int error = file_->write(bytes);
-    host_.tick({});
+    // What is written comes from what is read; the source says how far the pass has come.
+    host_.tick(host_.read_);
     return error;
   }
   int seek(std::uint64_t offset) override {

@@ -53,6 +53,7 @@ class PumpingHost : public text::HostOps {
 
   text::HostOps& host_;
   Pump pump_;
+  Progress read_;  ///< of the file that was read last
   std::chrono::steady_clock::time_point last_{};
 };
 

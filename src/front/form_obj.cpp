@@ -1,5 +1,6 @@
 #include "front/form_obj.h"
 
+#include <cmath>
 #include <initializer_list>
 #include <string_view>
 
@@ -82,6 +83,23 @@ void FormOBJ::restoreStart() {
   setCaptions(*this);
   setOptions(*this);
   showStart(*this);
+}
+
+void FormOBJ::makeSurfaces() {
+  for (Control* control : controls()) {
+    auto* picture = dynamic_cast<PictureBox*>(control);
+    if (picture == nullptr) continue;
+    picture->resize(static_cast<int>(std::lround(picture->box().width)),
+                    static_cast<int>(std::lround(picture->box().height)));
+  }
+}
+
+void FormOBJ::dropSurfaces() {
+  for (Control* control : controls()) {
+    if (auto* picture = dynamic_cast<PictureBox*>(control)) {
+      picture->surface() = graphics::Surface(0, 0);
+    }
+  }
 }
 
 }  // namespace norvik::front

@@ -19,6 +19,11 @@ class FormOBJ : public Form {
   /// Gives everything the state in which the form is loaded: nothing read, the tools hidden.
   void restoreStart();
 
+  /// Gives the drawing surfaces as many pixels as their places on the form have.
+  void makeSurfaces();
+  /// Gives their memory back.
+  void dropSurfaces();
+
   /// The flat views, in the order of the view's number: front, side, top.
   std::array<PictureBox*, 3> flatViews() { return {&PictureStore, &PictureStore2, &PictureStore3}; }
 
@@ -32,22 +37,22 @@ class FormOBJ : public Form {
   int MapDrawn = 0;             ///< 1 when a template is on PictureUVMap
   int MapSaved = 0;             ///< 1 when it is saved
 
-  // The views.
+  // The views. Their surfaces have pixels while the form is loaded.
 
-  PictureBox PictureObjViewer2{*this, "PictureObjViewer2", kViewSize, kViewSize};  ///< 3D
-  PictureBox PictureOBJViewer{*this, "PictureOBJViewer", kViewSize, kViewSize};
+  PictureBox PictureObjViewer2{*this, "PictureObjViewer2"};  ///< 3D
+  PictureBox PictureOBJViewer{*this, "PictureOBJViewer"};
   /// The front view that is drawn without 3D.
-  PictureBox PictureNoDX{*this, "PictureNoDX", kViewSize, kViewSize};
-  PictureBox PictureStore{*this, "PictureStore", kViewSize, kViewSize};    ///< front
-  PictureBox PictureStore2{*this, "PictureStore2", kViewSize, kViewSize};  ///< side
-  PictureBox PictureStore3{*this, "PictureStore3", kViewSize, kViewSize};  ///< top
-  PictureBox PictureUVMap{*this, "PictureUVMap", kMapSize, kMapSize};
-  PictureBox PictureSecMap{*this, "PictureSecMap", kMapSize, kMapSize};
+  PictureBox PictureNoDX{*this, "PictureNoDX"};
+  PictureBox PictureStore{*this, "PictureStore"};    ///< front
+  PictureBox PictureStore2{*this, "PictureStore2"};  ///< side
+  PictureBox PictureStore3{*this, "PictureStore3"};  ///< top
+  PictureBox PictureUVMap{*this, "PictureUVMap"};
+  PictureBox PictureSecMap{*this, "PictureSecMap"};
   /// For drawing by hand, and for texture maps.
-  PictureBox PictureZoom{*this, "PictureZoom", kViewSize, kViewSize};
-  PictureBox PictureAddObjFront{*this, "PictureAddObjFront", kViewSize, kViewSize};
-  PictureBox PictureAddObjSide{*this, "PictureAddObjSide", kViewSize, kViewSize};
-  PictureBox PictureAddObjTop{*this, "PictureAddObjTop", kViewSize, kViewSize};
+  PictureBox PictureZoom{*this, "PictureZoom"};
+  PictureBox PictureAddObjFront{*this, "PictureAddObjFront"};
+  PictureBox PictureAddObjSide{*this, "PictureAddObjSide"};
+  PictureBox PictureAddObjTop{*this, "PictureAddObjTop"};
   /// They cover the work.
   Image ImageBoss{*this, "ImageBoss"};
   Image ImageRDS{*this, "ImageRDS"};
@@ -129,10 +134,6 @@ class FormOBJ : public Form {
   Label LabelBiggestX{*this, "LabelBiggestX"};
   Label LabelSmallestX{*this, "LabelSmallestX"};
   Label LabelBiggestY{*this, "LabelBiggestY"};
-
- private:
-  static constexpr int kViewSize = 600;
-  static constexpr int kMapSize = 580;
 };
 
 /// Gives the controls of the workshop their places, in pixels.

@@ -11,7 +11,8 @@ namespace norvik::front {
 /// A drawing surface on a form. What is drawn comes on view when the tool refreshes the picture.
 class PictureBox : public Control {
  public:
-  PictureBox(Form& form, std::string_view name, int width, int height)
+  /// Without a size it has no pixels yet.
+  PictureBox(Form& form, std::string_view name, int width = 0, int height = 0)
       : Control(form, name, ControlKind::drawingSurface), surface_(width, height) {
     setBox({0, 0, static_cast<float>(width), static_cast<float>(height)});
   }

@@ -1,9 +1,6 @@
 #include "front/screen_scale.h"
 
-#include "front/picture_box.h"
-
 #include <algorithm>
-#include <cmath>
 
 namespace norvik::front {
 
@@ -23,11 +20,6 @@ void scale(Form& form, float x, float y) {
   }
 }
 
-void fitSurface(PictureBox& picture) {
-  picture.resize(static_cast<int>(std::lround(picture.box().width)),
-                 static_cast<int>(std::lround(picture.box().height)));
-}
-
 }  // namespace
 
 void ResizeFormToScreen(Session& session, Form& form) {
@@ -45,9 +37,6 @@ void scaleToScreen(Session& session, Form& form) {
   const Screen screen = session.front.screen();
   const float ratio = std::min(screen.width / form.box().width, screen.height / form.box().height);
   if (ratio > 0) scale(form, ratio, ratio);
-  for (Control* control : form.controls()) {
-    if (auto* picture = dynamic_cast<PictureBox*>(control)) fitSurface(*picture);
-  }
 }
 
 float scaledLeft(const Opening& opening, float left) {

@@ -10,7 +10,7 @@ namespace norvik::front {
 void ResizeFormToScreen(Session& session, Form& form);
 
 /// Multiplies a form, its controls and their fonts by the one ratio at which the form just fits on
-/// the screen. Drawing surfaces take their new size in whole pixels and keep their proportions.
+/// the screen, so that pictures keep their proportions.
 void scaleToScreen(Session& session, Form& form);
 
 /// A left edge in the main form's own pixels, as it is on the screen.

@@ -32,6 +32,7 @@ void leave(Workshop& workshop) {
   ++workshop.departures;
   workshop.spin.SpinStopped = true;
   forgetMeshInView(workshop);
+  workshop.form.dropSurfaces();
 }
 
 }  // namespace

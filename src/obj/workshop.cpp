@@ -19,6 +19,7 @@ Workshop::Workshop(front::Session& theSession, front::FormOBJ& theForm)
 void Workshop::restoreStart() {
   form.restoreStart();
   front::scaleToScreen(session, form);
+  form.makeSurfaces();
   mesh.clear();
   viewMode = ViewMode::front;
   Suppress = false;

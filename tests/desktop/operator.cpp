@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QtTest>
 
 #include <cstdlib>
@@ -103,7 +104,12 @@ QWidget& Operator::find(const QString& control) const {
 }
 
 void Operator::click(const QString& control) {
-  QTest::mouseClick(&find(control), Qt::LeftButton);
+  QWidget& widget = find(control);
+  // An option takes the mouse on its button and words alone.
+  constexpr int kButton = 10;
+  const bool option = qobject_cast<QRadioButton*>(&widget) != nullptr;
+  const QPoint place = option ? QPoint(kButton, widget.height() / 2) : QPoint();
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, place);
 }
 
 void Operator::rightClick(const QString& control) {

@@ -2,6 +2,7 @@
 //
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it.
@@ -160,6 +161,30 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
 
+/// Spins a mesh, closes the workshop in the middle of it, spins again, and leaves the program in
+/// the middle of that.
+void closeWhileItSpins(desktop::Program& program, desktop::Operator& hand, const QString& drive) {
+  constexpr int kMeanwhile = 300;  // milliseconds
+  hand.willChoose(drive + u"/Runtime/Geometries/Tilda/tilda.obj"_s);
+  hand.shortcut(Qt::Key_O, Qt::ControlModifier);
+  const auto spin = [&](const std::function<void()>& meanwhile) {
+    hand.click(u"PictureOBJView"_s);
+    hand.click(u"LabelView"_s);
+    QWidget& views = hand.find(u"ViewStack"_s);
+    QTest::keyClick(&views, Qt::Key_Space);
+    QTimer::singleShot(kMeanwhile, &views, meanwhile);
+    QTest::keyClick(&views, Qt::Key_Space);
+  };
+  spin([&] { hand.find(u"FormOBJ"_s).close(); });
+  if (program.session().findForm("FormOBJ")->loaded())
+    desktop::giveUp("the workshop is still there");
+  std::cout << "the workshop is closed\n";
+  spin([&] { program.mainWindow().close(); });
+  const auto gone = [&] { return !program.session().opening.loaded(); };
+  if (!QTest::qWaitFor(gone, 10000)) desktop::giveUp("the program is still there");
+  std::cout << "the program is closed\n";
+}
+
 /// The resident memory of this process in megabytes.
 double megabytes() {
   QFile status(u"/proc/self/status"_s);
@@ -213,6 +238,7 @@ int main(int count, char** arguments) {
       measure(program, words.value(4).toStdString(), started);
       QApplication::quit();
     }
+    if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);
     if (words[1] == u"spin"_s) {
       desktop::timeSpin(words.value(4).toInt());
       QApplication::quit();

@@ -127,14 +127,21 @@ TEST(FormOBJInventory, ListsTheHotKeys) {
              "Numpad 9: speed up", "Numpad 3: slow down!", "Right click to hide"}));
 }
 
-TEST(FormOBJInventory, HasItsSurfaces) {
-  const FormOBJ form;
-  for (const char* name : {"PictureUVMap", "PictureSecMap"}) {
-    const auto* picture = dynamic_cast<const PictureBox*>(form.find(name));
-    EXPECT_EQ(picture->surface().width(), 580) << name;
-    EXPECT_EQ(picture->surface().height(), 580) << name;
-  }
-  EXPECT_EQ(form.PictureOBJViewer.surface().width(), form.PictureObjViewer2.surface().width());
+TEST(FormOBJInventory, HasPixelsOnlyWhileItNeedsThem) {
+  FormOBJ form;
+  const auto width = [&](const char* name) {
+    return dynamic_cast<const PictureBox*>(form.find(name))->surface().width();
+  };
+  EXPECT_EQ(width("PictureUVMap"), 0);
+  form.makeSurfaces();
+  EXPECT_EQ(width("PictureUVMap"), 580);
+  EXPECT_EQ(width("PictureSecMap"), 580);
+  EXPECT_EQ(form.PictureUVMap.surface().height(), 580);
+  EXPECT_EQ(width("PictureOBJViewer"), 600);
+  EXPECT_EQ(width("PictureObjViewer2"), 600);
+  form.dropSurfaces();
+  EXPECT_EQ(width("PictureStore"), 0);
+  EXPECT_EQ(form.PictureStore.box().width, 600);
 }
 
 TEST(FormOBJInventory, KeepsTheOptionsOfEachFrameApart) {

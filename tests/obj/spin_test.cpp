@@ -15,16 +15,15 @@ using graphics::Transform;
 using SpinTest = SpinBench;
 
 TEST_F(SpinTest, ALoadOfTheFormMakesTheViewStepByStep) {
-  form.PictureObjViewer2.setBox({10, 20, 640, 600});
   session.load(form);
   const std::vector<std::string> wanted{"createDirectDraw",
                                         "setCooperativeLevel 8",
                                         "createPrimarySurface 0x200",
-                                        "createBackSurface 7 0x2040 640x600",
+                                        "createBackSurface 7 0x2040 600x600",
                                         "createClipper",
                                         "createDirect3D",
                                         "createDevice IID_IDirect3DRGBDevice",
-                                        "setViewport 0 0 640 600 0 1",
+                                        "setViewport 0 0 600 600 0 1",
                                         "setRenderState 139 0xffffffff",
                                         "setRenderState 22 0x1"};
   EXPECT_EQ(device().setUp(), wanted);

@@ -31,7 +31,7 @@ constexpr int kPermille = 1000;
 
 MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& form,
                        DesktopFrontEnd& frontEnd, std::function<void()> unload, QWidget* parent)
-    : FormWindow(maker, form, std::move(unload), parent), frontEnd_(frontEnd) {
+    : FormWindow(maker, form, std::move(unload), parent) {
   setWindowFlags(Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);

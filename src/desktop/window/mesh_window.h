@@ -32,7 +32,6 @@ class MeshWindow : public FormWindow {
   void bindTheRest(front::FormOBJ& form, QWidget& side);
   void keepTheKeys();
 
-  DesktopFrontEnd& frontEnd_;
   ViewStack* views_ = nullptr;
   QLabel* state_ = nullptr;
   QProgressBar* progress_ = nullptr;
