@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 
 namespace norvik::desktop {
 
@@ -26,14 +25,6 @@ fs::path driveC() {
   return own;
 }
 
-void orBadOption(const std::string& option, const std::function<void()>& step) {
-  try {
-    step();
-  } catch (const text::FileError& error) {
-    throw BadOption{option + ": " + std::string{error.text()}};
-  }
-}
-
 bool names(const Options& options, char letter) {
   for (const auto& [drive, folder] : options.drives) {
     if ((drive & ~0x20) == letter) return true;
@@ -53,7 +44,8 @@ void setUpDrives(text::Disk& disk, const Options& options, const std::string& pr
   disk.mount('Z', "/");
   if (!names(options, 'C')) disk.mount('C', driveC().string());
   for (const auto& [letter, folder] : options.drives) disk.mount(letter, folder);
-  orBadOption("the program folder " + programFolder, [&] { disk.makeFolders(programFolder); });
+  workbench::orBadOption("the program folder " + programFolder,
+                         [&] { disk.makeFolders(programFolder); });
 
   std::error_code error;
   const auto current = fs::current_path(error);

@@ -10,7 +10,8 @@ namespace norvik::desktop {
 
 /// Mounts Z: on the root, C: on the Wine prefix's drive (WINEPREFIX, else ~/.wine) or, where there
 /// is none, on a folder of the user's data, and then what the options say; makes the program folder
-/// and enters the host's current folder. Throws BadOption for folders that cannot be used.
+/// and enters the host's current folder. Throws workbench::BadOption for folders that cannot be
+/// used.
 void setUpDrives(text::Disk& disk, const Options& options, const std::string& programFolder);
 
 /// The program folder without a backslash at its end.

@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <csignal>
 #include <exception>
 #include <iostream>
 
@@ -47,9 +48,11 @@ int main(int count, char** arguments) {
     std::cout << "norvik " << norvik::front::kVersion << '\n';
     return 0;
   }
+  // A file beyond the user's limit is an error of a write like others.
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return run(count, arguments);
-  } catch (const desktop::BadOption& bad) {
+  } catch (const norvik::workbench::BadOption& bad) {
     std::cerr << "norvik: " << bad.why << '\n';
     return kBadOption;
   } catch (const FileError& error) {

@@ -19,7 +19,8 @@ namespace norvik::desktop {
 /// program's looks are set on it.
 class Program {
  public:
-  /// Throws BadOption for folders that cannot be used, FileError for settings that cannot be read.
+  /// Throws workbench::BadOption for folders that cannot be used, FileError for settings that
+  /// cannot be read.
   Program(const Options& options, Asker& asker);
   ~Program();
 

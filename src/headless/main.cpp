@@ -3,6 +3,7 @@
 #include "front/opening.h"
 #include "headless/runner.h"
 
+#include <csignal>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -10,8 +11,8 @@
 
 namespace {
 
-using norvik::headless::BadOption;
 using norvik::headless::Options;
+using norvik::workbench::BadOption;
 
 int run(const Options& options) {
   const auto host = norvik::text::makePosixHost();
@@ -26,6 +27,10 @@ int run(const Options& options) {
 
 int main(int count, char** arguments) {
   std::ios::sync_with_stdio(false);
+  // A file beyond the user's limit and a reader who has gone away are errors of a write like
+  // others.
+  std::signal(SIGXFSZ, SIG_IGN);
+  std::signal(SIGPIPE, SIG_IGN);
   try {
     const Options options = norvik::headless::parseOptions({arguments + 1, arguments + count});
     if (options.help) {

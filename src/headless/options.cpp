@@ -3,8 +3,6 @@
 #include <cctype>
 #include <charconv>
 #include <filesystem>
-#include <functional>
-#include <map>
 
 namespace norvik::headless {
 
@@ -32,16 +30,10 @@ const char* const kHelp =
 
 namespace {
 
-std::pair<char, std::string> driveOf(const std::string& value) {
-  const bool formed = value.size() > 2 && value[1] == '=' &&
-                      std::isalpha(static_cast<unsigned char>(value[0])) != 0;
-  if (!formed) throw BadOption{"--drive takes L=FOLDER, not '" + value + "'"};
-  std::error_code error;
-  const auto folder = std::filesystem::canonical(value.substr(2), error);
-  if (error || !std::filesystem::is_directory(folder, error)) {
-    throw BadOption{"--drive: no folder '" + value.substr(2) + "'"};
-  }
-  return {value[0], folder.string()};
+/// The host's current folder is known without links, and a drive is to be found that holds it.
+workbench::Drive driveOf(const std::string& value) {
+  const auto [letter, folder] = workbench::driveOf(value);
+  return {letter, std::filesystem::canonical(folder).string()};
 }
 
 /// Reads a number off the front of a text.
@@ -59,7 +51,7 @@ void setScreen(ScriptFrontEnd::Options& options, const std::string& value) {
   if (cross) rest.remove_prefix(1);
   options.screenHeight = takeNumber(rest);
   if (!cross || !rest.empty() || options.screenWidth <= 0 || options.screenHeight <= 0) {
-    throw BadOption{"--screen takes WxH, not '" + value + "'"};
+    throw workbench::BadOption{"--screen takes WxH, not '" + value + "'"};
   }
 }
 
@@ -70,7 +62,8 @@ std::string clockOf(const std::string& value) {
     formed = form[i] == '0' ? std::isdigit(static_cast<unsigned char>(value[i])) != 0
                             : value[i] == form[i];
   }
-  if (!formed) throw BadOption{"--clock takes \"YYYY-MM-DD HH:MM:SS\", not '" + value + "'"};
+  if (!formed)
+    throw workbench::BadOption{"--clock takes \"YYYY-MM-DD HH:MM:SS\", not '" + value + "'"};
   return value;
 }
 
@@ -79,35 +72,28 @@ std::string clockOf(const std::string& value) {
 Options parseOptions(const std::vector<std::string>& arguments) {
   Options options;
   bool scriptGiven = false;
-  const std::map<std::string, std::function<void(const std::string&)>, std::less<>> valued{
-      {"--drive", [&](const std::string& value) { options.drives.push_back(driveOf(value)); }},
-      {"--program", [&](const std::string& value) { options.program = value; }},
-      {"--cwd", [&](const std::string& value) { options.currentFolder = value; }},
-      {"--settings", [&](const std::string& value) { options.settings = value; }},
-      {"--screen", [&](const std::string& value) { setScreen(options.frontEnd, value); }},
-      {"--clock", [&](const std::string& value) { options.frontEnd.clock = clockOf(value); }},
-      {"--open", [&](const std::string& value) { options.open = value; }}};
-
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& argument = arguments[i];
-    const auto equals = argument.starts_with("--") ? argument.find('=') : std::string::npos;
-    const auto option = valued.find(argument.substr(0, equals));
-    if (option != valued.end()) {
-      if (equals == std::string::npos && i + 1 == arguments.size()) {
-        throw BadOption{argument + " needs a value"};
-      }
-      option->second(equals == std::string::npos ? arguments[++i] : argument.substr(equals + 1));
-    } else if (argument == "--help") {
+  const auto takeRest = [&](const std::string& argument) {
+    if (argument == "--help") {
       options.help = true;
     } else if (argument == "--version") {
       options.version = true;
     } else if (argument.starts_with("--") || scriptGiven) {
-      throw BadOption{"no option '" + argument + "'"};
+      workbench::refuseArgument(argument);
     } else {
       options.script = argument;
       scriptGiven = true;
     }
-  }
+  };
+  workbench::readArguments(
+      arguments,
+      {{"--drive", [&](const std::string& value) { options.drives.push_back(driveOf(value)); }},
+       {"--program", [&](const std::string& value) { options.program = value; }},
+       {"--cwd", [&](const std::string& value) { options.currentFolder = value; }},
+       {"--settings", [&](const std::string& value) { options.settings = value; }},
+       {"--screen", [&](const std::string& value) { setScreen(options.frontEnd, value); }},
+       {"--clock", [&](const std::string& value) { options.frontEnd.clock = clockOf(value); }},
+       {"--open", [&](const std::string& value) { options.open = value; }}},
+      takeRest);
   return options;
 }
 

@@ -2,15 +2,15 @@
 // The command line of norvik-run.
 
 #include "headless/script_front_end.h"
+#include "workbench/command_line.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace norvik::headless {
 
 struct Options {
-  std::vector<std::pair<char, std::string>> drives;  ///< letter and absolute host folder
+  std::vector<workbench::Drive> drives;  ///< folders without links
   std::string program;
   std::string currentFolder;
   std::string settings;
@@ -21,12 +21,7 @@ struct Options {
   bool version = false;
 };
 
-/// A command line that cannot be understood, in words for the user.
-struct BadOption {
-  std::string why;
-};
-
-/// Reads the arguments behind the program's name. Throws BadOption.
+/// Reads the arguments behind the program's name. Throws workbench::BadOption.
 Options parseOptions(const std::vector<std::string>& arguments);
 
 extern const char* const kHelp;

@@ -1,7 +1,7 @@
 #include "headless/runner.h"
 
 #include "headless/commands.h"
-#include "text/columns.h"
+#include "text/safe_replace.h"
 #include "workbench/workbench.h"
 
 #include <cstdlib>
@@ -10,15 +10,6 @@
 namespace norvik::headless {
 
 namespace {
-
-/// Runs a step of the set-up; what it cannot do is the option's fault.
-void orBadOption(const std::string& option, const std::function<void()>& step) {
-  try {
-    step();
-  } catch (const text::FileError& error) {
-    throw BadOption{option + ": " + std::string{error.text()}};
-  }
-}
 
 void mountDrives(text::Disk& disk, const Options& options) {
   disk.mount('Z', "/");
@@ -29,10 +20,10 @@ void enterCurrentFolder(text::Disk& disk, const Options& options) {
   std::string folder = options.currentFolder;
   if (folder.empty()) {
     const auto host = disk.systemPath(std::filesystem::current_path().string());
-    if (!host) throw BadOption{"no drive holds the current folder: give --cwd"};
+    if (!host) throw workbench::BadOption{"no drive holds the current folder: give --cwd"};
     folder = *host;
   }
-  orBadOption("--cwd " + folder, [&] { disk.changeFolder(folder); });
+  workbench::orBadOption("--cwd " + folder, [&] { disk.changeFolder(folder); });
 }
 
 std::string userDataFolder() {
@@ -48,22 +39,26 @@ std::string programFolder(text::Disk& disk, const Options& options) {
   if (folder.empty() && disk.hasDrive('C')) folder = "C:\\Norvik";
   if (folder.empty()) {
     const auto data = disk.systemPath(userDataFolder());
-    if (!data) throw BadOption{"no drive holds the user's data folder: give --program"};
+    if (!data) throw workbench::BadOption{"no drive holds the user's data folder: give --program"};
     folder = *data;
   }
   while (folder.ends_with('\\')) folder.pop_back();
-  orBadOption("--program " + folder, [&] { disk.makeFolders(folder); });
+  workbench::orBadOption("--program " + folder, [&] { disk.makeFolders(folder); });
   return folder;
 }
 
+/// The store stands from the start, so that an option that cannot be used is told before any work.
 front::Settings settingsOf(text::HostOps& host, const Options& options) {
   if (options.settings.empty()) return {};
   const auto file = std::filesystem::absolute(options.settings);
-  std::error_code ignored;
-  std::filesystem::create_directories(file.parent_path(), ignored);
+  std::error_code error;
+  std::filesystem::create_directories(file.parent_path(), error);
+  if (error) throw workbench::BadOption{"--settings " + options.settings + ": " + error.message()};
   front::Settings settings;
-  orBadOption("--settings " + options.settings,
-              [&] { settings = front::Settings(host, file.string()); });
+  workbench::orBadOption("--settings " + options.settings, [&] {
+    if (!std::filesystem::exists(file)) text::replaceContent(host, file.string(), {});
+    settings = front::Settings(host, file.string());
+  });
   return settings;
 }
 

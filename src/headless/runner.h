@@ -9,8 +9,8 @@
 
 namespace norvik::headless {
 
-/// Runs a script against a workbench of its own and prints its events. Throws BadOption for folders
-/// that the options name and that cannot be used.
+/// Runs a script against a workbench of its own and prints its events. Throws workbench::BadOption
+/// for folders that the options name and that cannot be used.
 ExitCode runScript(const Options& options, text::HostOps& host, std::istream& script,
                    std::ostream& out);
 

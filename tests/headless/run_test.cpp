@@ -238,7 +238,7 @@ TEST_F(Runs, FoldersThatCannotBeUsedAreBadOptions) {
   const auto bad = [](const Options& options) {
     try {
       runWith(options, "");
-    } catch (const BadOption&) {
+    } catch (const workbench::BadOption&) {
       return true;
     }
     return false;
@@ -256,13 +256,28 @@ TEST_F(Runs, FoldersThatCannotBeUsedAreBadOptions) {
   options = this->options();
   options.settings = drive();
   EXPECT_TRUE(bad(options)) << "a folder in the store's place";
+  options.settings = drive() + "/file/norvik.ini";
+  EXPECT_TRUE(bad(options)) << "a file in the place of the store's folder";
+  options.settings = "/proc/norvik.ini";
+  EXPECT_TRUE(bad(options)) << "a folder that takes no files";
+}
+
+TEST_F(Runs, ASettingsFileThatIsMissingIsMade) {
+  Options options = this->options();
+  options.settings = folder / "new folder/norvik.ini";
+  EXPECT_EQ(runWith(options, "").code, kDone);
+  EXPECT_EQ(folder.read("new folder/norvik.ini"), "");
+  EXPECT_EQ(runWith(options, "setting A b c\n").code, kDone);
+  EXPECT_EQ(folder.read("new folder/norvik.ini"), "[A]\nb=c\n");
+  EXPECT_EQ(runWith(options, "").code, kDone);
+  EXPECT_EQ(folder.read("new folder/norvik.ini"), "[A]\nb=c\n");
 }
 
 /// Whether the arguments are understood.
 bool understood(const std::vector<std::string>& arguments) {
   try {
     parseOptions(arguments);
-  } catch (const BadOption&) {
+  } catch (const workbench::BadOption&) {
     return false;
   }
   return true;
