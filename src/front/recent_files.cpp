@@ -1,6 +1,6 @@
 #include "front/recent_files.h"
 
-#include "text/columns.h"
+#include "text/file_names.h"
 
 #include <algorithm>
 
@@ -17,7 +17,7 @@ constexpr std::string_view kSection = "MRUFiles";
 void AddMRUItem(Opening& opening, const std::string& path) {
   const auto& items = opening.ListMRU.items();
   const bool listed = std::any_of(items.begin(), items.end(), [&](const std::string& item) {
-    return text::equalIgnoringCase(item, path);
+    return text::sameName(item, path);
   });
   if (!listed) AddMenuElement(opening, path);
 }

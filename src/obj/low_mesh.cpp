@@ -6,6 +6,7 @@
 #include "text/line_reader.h"
 #include "text/line_writer.h"
 #include "text/number_text.h"
+#include "text/rewrite_pass.h"
 
 #include <cmath>
 
@@ -48,6 +49,7 @@ std::string raisedHeight(std::string_view y) {
 
 void rewriteLowMesh(front::Session& session, const std::string& path) {
   const std::string target = session.opening.inProgramFolder(kParamFile);
+  text::keepApart(session.disk, path, target);
   text::ignoringErrors([&] { session.disk.remove(target); });
   text::LineWriter out(session.disk, target);
   text::LineReader in(session.disk, path);

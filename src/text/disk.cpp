@@ -2,6 +2,7 @@
 
 #include "text/classic_errors.h"
 #include "text/columns.h"
+#include "text/file_names.h"
 #include "text/safe_replace.h"
 #include "text/wildcards.h"
 
@@ -108,7 +109,7 @@ Disk::Place Disk::locate(const Path& path) const {
         // The one of the names that differ in case alone that comes first, always the same.
         std::sort(names.begin(), names.end());
         const auto found = std::find_if(names.begin(), names.end(), [&](const std::string& other) {
-          return equalIgnoringCase(other, part);
+          return sameName(other, part);
         });
         if (found != names.end()) {
           name = joined(place.name, *found);
@@ -171,6 +172,19 @@ bool Disk::folderExists(std::string_view path) const {
 
 std::uint64_t Disk::size(std::string_view path) const {
   return locateFile(path).status.size;
+}
+
+bool Disk::isSameFile(std::string_view left, std::string_view right) const {
+  try {
+    const Place one = locateFile(left);
+    const Place other = locateFile(right);
+    const bool told = one.status.serial != 0;
+    return told ? one.status.serial == other.status.serial &&
+                      one.status.medium == other.status.medium
+                : followLinks(host_, one.name) == followLinks(host_, other.name);
+  } catch (const FileError&) {
+    return false;
+  }
 }
 
 bool Disk::isReadOnly(std::string_view path) const {
@@ -264,9 +278,10 @@ void Disk::rename(std::string_view from, std::string_view to) {
 void Disk::respell(const std::string& name, std::string_view path) {
   const std::string wanted =
       joined(name.substr(0, name.find_last_of('/')), parse(path).parts.back());
-  const bool sameFolder = equalIgnoringCase(name, wanted);
+  // A spelling out of a figure file has single bytes for letters that the host's names have not.
+  const bool fits = sameName(name, wanted) && isUtf8(wanted);
   // Should it fail, the file is whole under its old spelling.
-  if (sameFolder && name != wanted) static_cast<void>(host_.renameNew(name, wanted));
+  if (fits && name != wanted) static_cast<void>(host_.renameNew(name, wanted));
 }
 
 void Disk::replace(std::string_view scratch, std::string_view target) {

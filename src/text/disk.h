@@ -37,6 +37,8 @@ class Disk {
   bool exists(std::string_view path) const;
   bool folderExists(std::string_view path) const;
   std::uint64_t size(std::string_view path) const;
+  /// Whether two paths, links followed, lead to one file. Never fails.
+  bool isSameFile(std::string_view left, std::string_view right) const;
   /// The read-only attribute of a file or folder: its owner may not write it.
   bool isReadOnly(std::string_view path) const;
   void setReadOnly(std::string_view path, bool readOnly);

@@ -24,6 +24,9 @@ struct HostStatus {
   unsigned mode = 0;  ///< permission bits
   unsigned owner = 0;
   unsigned group = 0;
+  // Two names with the same numbers are one file's; 0 where the host does not tell.
+  std::uint64_t medium = 0;
+  std::uint64_t serial = 0;
 };
 
 /// An open host file. Closing happens with the object.

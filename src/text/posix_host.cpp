@@ -106,6 +106,8 @@ class PosixHost final : public HostOps {
     status.mode = found.st_mode & kPermissionBits;
     status.owner = found.st_uid;
     status.group = found.st_gid;
+    status.medium = found.st_dev;
+    status.serial = found.st_ino;
     return 0;
   }
 

@@ -4,15 +4,20 @@ namespace norvik::text {
 
 namespace {
 
-std::string_view cleared(Disk& disk, std::string_view scratch) {
+std::string_view cleared(Disk& disk, std::string_view figure, std::string_view scratch) {
+  keepApart(disk, figure, scratch);
   ignoringErrors([&] { disk.remove(scratch); });
   return scratch;
 }
 
 }  // namespace
 
+void keepApart(const Disk& disk, std::string_view source, std::string_view scratch) {
+  if (disk.isSameFile(source, scratch)) throw FileError(ErrorNumber::fileAlreadyOpen);
+}
+
 RewritePass::RewritePass(Disk& disk, std::string_view figure, std::string_view scratch)
-    : out_(disk, cleared(disk, scratch)), in_(disk, figure) {}
+    : out_(disk, cleared(disk, figure, scratch)), in_(disk, figure) {}
 
 void RewritePass::copyLines(const LineFilter& filter) {
   in_.handOnLines(filter, [this](std::string_view lines) { out_.lines(lines); });

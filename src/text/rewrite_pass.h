@@ -10,9 +10,14 @@
 
 namespace norvik::text {
 
+/// Throws FileError fileAlreadyOpen (55) if the file that is to be read is the scratch file itself,
+/// which a pass deletes and writes anew: a result that an operator has opened to rescue it stays.
+void keepApart(const Disk& disk, std::string_view source, std::string_view scratch);
+
 /// A reader of the figure and a writer of the scratch file, side by side. The scratch file is
-/// deleted first, if it can be. When the pass ends early on an error, the lines printed so far
-/// stand in the scratch file, and the figure is as it was.
+/// deleted first, if it can be; it must be another file than the figure (see keepApart). When the
+/// pass ends early on an error, the lines printed so far stand in the scratch file, and the figure
+/// is as it was.
 ///
 ///     RewritePass pass(disk, figure, scratch);
 ///     while (!pass.in().atEnd()) pass.out().line(changed(pass.in().line()));

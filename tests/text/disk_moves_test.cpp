@@ -96,6 +96,19 @@ TEST_F(DiskMovesTest, ReplacePutsTheScratchFileInTheTargetsPlace) {
   EXPECT_EQ(folder.read("target.cr2"), "new");
 }
 
+TEST_F(DiskMovesTest, AReplacedFileKeepsItsLettersFromASpellingInSingleBytes) {
+  folder.write("Größe.cr2", "old");
+  folder.write("scratch", "new");
+  disk.replace("C:\\scratch",
+               "C:\\gr\xF6\xDF"
+               "e.CR2");
+  EXPECT_EQ(folder.files(), std::vector<std::string>{"Größe.cr2"});
+  EXPECT_EQ(folder.read("Größe.cr2"), "new");
+  folder.write("scratch", "newer");
+  disk.replace("C:\\scratch", "C:\\GRÖßE.cr2");
+  EXPECT_EQ(folder.files(), std::vector<std::string>{"GRÖßE.cr2"});
+}
+
 TEST_F(DiskMovesTest, ReplaceDoesNotRenameWhatALinkPointsTo) {
   folder.write("real.cr2", "old");
   folder.makeLink("Link.cr2", folder.path("real.cr2"));

@@ -38,6 +38,16 @@ TEST_F(DiskTest, FindsNamesWithoutRegardToCase) {
   EXPECT_EQ(disk.hostPath("C:\\runtime\\new\\A.txt"), folder.path("Runtime/new/A.txt"));
 }
 
+TEST_F(DiskTest, FindsNamesWithLettersOfOtherTongues) {
+  folder.write("Körper/Größe.CR2", "x");
+  EXPECT_EQ(read("C:\\KÖRPER\\größe.cr2"), "x");
+  EXPECT_EQ(read("C:\\k\xF6rper\\gr\xF6\xDF"
+                 "e.cr2"),
+            "x")
+      << "as a figure file spells it";
+  EXPECT_EQ(disk.matching("C:\\körper\\gr?ße.*"), std::vector<std::string>{"Größe.CR2"});
+}
+
 TEST_F(DiskTest, AnExactNameGoesBeforeOneThatDiffersInCase) {
   folder.write("B.txt", "1");
   folder.write("b.TXT", "2");
@@ -45,6 +55,17 @@ TEST_F(DiskTest, AnExactNameGoesBeforeOneThatDiffersInCase) {
   EXPECT_EQ(read("C:\\b.txt"), "3");
   EXPECT_EQ(read("C:\\b.TXT"), "2");
   EXPECT_EQ(read("C:\\B.TXT"), "1");  // the first in the order of names
+}
+
+TEST_F(DiskTest, AFileIsTheSameByAnyOfItsNames) {
+  folder.write("a/f", "x");
+  folder.write("g", "x");
+  folder.makeLink("link", folder.path("a"));
+  EXPECT_TRUE(disk.isSameFile("C:\\a\\f", "C:\\A\\F"));
+  EXPECT_TRUE(disk.isSameFile("C:\\link\\f", "C:\\a\\f"));
+  EXPECT_FALSE(disk.isSameFile("C:\\a\\f", "C:\\g"));
+  EXPECT_FALSE(disk.isSameFile("C:\\missing", "C:\\missing"));
+  EXPECT_FALSE(disk.isSameFile("", "Q:\\f"));
 }
 
 TEST_F(DiskTest, DotsAndDoubledBackslashesCountForNothing) {

@@ -33,6 +33,8 @@ TEST(Wildcards, AQuestionMarkTakesOne) {
   EXPECT_FALSE(matchesWildcards(".pz2", "?.p?2"));
   EXPECT_TRUE(matchesWildcards("aab", "*?b"));
   EXPECT_FALSE(matchesWildcards("b", "*?b"));
+  EXPECT_TRUE(matchesWildcards("ä.pz2", "?.PZ2")) << "a letter of two bytes";
+  EXPECT_TRUE(matchesWildcards("Ä.pz2", "ä*"));
 }
 
 TEST(Wildcards, StarDotStarTakesNamesWithoutADot) {
