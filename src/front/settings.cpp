@@ -14,19 +14,26 @@ namespace {
 using text::equalIgnoringCase;
 using text::trimmed;
 
-/// The name in "[name]"; nothing for another line.
+/// The name in "[name]"; nothing for another line. Some editors put a mark of the encoding in front
+/// of the first line.
 std::optional<std::string_view> sectionOf(std::string_view line) {
+  constexpr std::string_view kEncodingMark = "\xEF\xBB\xBF";
+  if (line.starts_with(kEncodingMark)) line.remove_prefix(kEncodingMark.size());
   const auto bare = trimmed(line);
   if (!bare.starts_with('[') || !bare.ends_with(']')) return std::nullopt;
   return bare.substr(1, bare.size() - 2);
 }
 
-/// The key and value of "key=value"; nothing for another line. The value is all behind the "=".
+/// The key and value of "key=value"; nothing for another line. The value is all behind the "=", but
+/// for a blank there that stands in front of the "=" as well, as other programs lay out such files.
 std::optional<std::pair<std::string_view, std::string_view>> entryOf(std::string_view line) {
   const auto equals = line.find('=');
   const bool comment = trimmed(line).starts_with(';') || trimmed(line).starts_with('#');
   if (equals == std::string_view::npos || comment) return std::nullopt;
-  return std::pair{trimmed(line.substr(0, equals)), line.substr(equals + 1)};
+  const std::string_view key = line.substr(0, equals);
+  std::string_view value = line.substr(equals + 1);
+  if (key.ends_with(' ') && value.starts_with(' ')) value.remove_prefix(1);
+  return std::pair{trimmed(key), value};
 }
 
 }  // namespace

@@ -65,6 +65,21 @@ std::string nameOf(const front::Session& session, const front::Control& control)
   return onMainForm ? control.name() : control.form().name() + "." + control.name();
 }
 
+/// A slip of the pen must not pass for the command that it is most like: those that do not take the
+/// rest of their line have no more words than these.
+void refuseSurplus(const std::string& command, const ScriptLine& line) {
+  static const std::map<std::string, int, std::less<>> mostWords{
+      {"answer", 1},       {"cancel", 0},      {"colour", 3},  {"accept", 0},   {"start", 0},
+      {"exit", 0},         {"click", 1},       {"hover", 1},   {"drop", 2},     {"tick", 3},
+      {"double-click", 1}, {"right-click", 1}, {"key", 2},     {"set", 2},      {"caret", 3},
+      {"press", 4},        {"drag", 4},        {"release", 4}, {"timer", 1},    {"frames", 1},
+      {"load", 1},         {"close", 1},       {"show", 1},    {"show-form", 1}};
+  const auto most = mostWords.find(command);
+  if (most != mostWords.end() && line.wordsLeft() > most->second) {
+    throw Refused{"more words than " + command + " takes"};
+  }
+}
+
 /// Runs a step on the disk or the settings that the script itself asks for.
 void orRefuse(const std::function<void()>& step) {
   try {
@@ -99,6 +114,7 @@ void Commands::run(ScriptLine line) {
     const std::string name = line.word();
     const auto command = commands_.find(name);
     if (command == commands_.end()) throw Refused{"no command '" + name + "'"};
+    refuseSurplus(name, line);
     command->second(line);
   } catch (const Refused& refused) {
     outcome_.refused = true;
@@ -254,7 +270,9 @@ void Commands::addMouse() {
   };
   commands_["drop-file"] = [this](ScriptLine& line) {
     front::Control& onto = reach(line.lastWord());
-    acts_.dropFile(line.rest(), onto);
+    const std::string path = line.rest();
+    if (path.empty()) throw Refused{"no file"};
+    acts_.dropFile(path, onto);
   };
 }
 
@@ -312,6 +330,9 @@ void Commands::addDisk() {
     const std::string section = line.word();
     const std::string key = line.word();
     if (key.empty()) throw Refused{"no key"};
+    // The store's file could not give it back.
+    const bool writable = key.find_first_of("=;#[") == std::string::npos;
+    if (!writable) throw Refused{"'" + key + "' is no key"};
     orRefuse([&] { session_.settings.set(section, key, line.rest()); });
   };
   commands_["attribute"] = [this](ScriptLine& line) {

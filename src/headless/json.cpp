@@ -54,8 +54,9 @@ std::string jsonString(std::string_view bytes) {
 }
 
 std::string jsonNumber(float number) {
-  std::array<char, 32> buffer{};
-  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number);
+  std::array<char, 64> buffer{};
+  const auto result =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
   return {buffer.data(), result.ptr};
 }
 

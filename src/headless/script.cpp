@@ -12,6 +12,13 @@ std::string ScriptLine::word() {
   return text_.substr(first, at_ - first);
 }
 
+int ScriptLine::wordsLeft() const {
+  ScriptLine ahead = *this;
+  int count = 0;
+  for (; ahead.hasMore(); ++count) ahead.word();
+  return count;
+}
+
 std::string ScriptLine::lastWord() {
   const auto last = text_.find_last_not_of(' ');
   if (last == std::string::npos || last < at_) return {};
@@ -35,7 +42,7 @@ std::optional<ScriptLine> Script::next() {
   while (std::getline(in_, text)) {
     ++number_;
     if (text.ends_with('\r')) text.pop_back();
-    const bool blank = text.find_first_not_of(' ') == std::string::npos;
+    const bool blank = text.find_first_not_of(" \t") == std::string::npos;
     if (!blank && !text.starts_with('#')) return ScriptLine(number_, std::move(text));
   }
   return std::nullopt;

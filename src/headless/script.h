@@ -22,6 +22,7 @@ class ScriptLine {
   /// All that is left behind exactly one blank, as it stands.
   std::string rest();
   bool hasMore() const { return text_.find_first_not_of(' ', at_) != std::string::npos; }
+  int wordsLeft() const;
 
  private:
   int number_;

@@ -67,12 +67,18 @@ TEST_F(SettingsTest, ReadsWhatPeopleWrite) {
   EXPECT_EQ(get("[Startup]\nPLoc\n[\n]\n[x\n", "Startup", "PLoc"), "none");
   EXPECT_EQ(get("[A]\na=1\n[B]\na=2\n[A]\nb=3\n", "A", "b"), "3");
   EXPECT_EQ(get("", "Startup", "PLoc"), "none");
+  EXPECT_EQ(get("[Startup]\nPLoc = C:\\Poser\\\n", "Startup", "PLoc"), "C:\\Poser\\");
+  EXPECT_EQ(get("[Startup]\nPLoc =  x\n", "Startup", "PLoc"), " x");
+  EXPECT_EQ(get("[Startup]\nPLoc= x\n", "Startup", "PLoc"), " x");
+  EXPECT_EQ(get("\xEF\xBB\xBF[Startup]\nPLoc=x\n", "Startup", "PLoc"), "x");
 }
 
 TEST_F(SettingsTest, AValueTakesItsLineAndAllOthersStay) {
   EXPECT_EQ(after("; mine\nodd\n[Other]\nPLoc=1\n\n[Startup]\n# old\nPLoc=2\nVer=3\n", "startup",
                   "PLOC", "new"),
             "; mine\nodd\n[Other]\nPLoc=1\n\n[Startup]\n# old\nPLOC=new\nVer=3\n");
+  EXPECT_EQ(after("\xEF\xBB\xBF[A]\na = 1\nb = 2\n", "A", "a", " 3"),
+            "\xEF\xBB\xBF[A]\na= 3\nb = 2\n");
 }
 
 TEST_F(SettingsTest, ANewKeyGoesBehindTheLastOfItsSection) {

@@ -168,6 +168,23 @@ TEST_F(OperatorCommands, AnEntryOfADisabledOrHiddenMenuIsRefused) {
   EXPECT_EQ(pad.takeLog(), Lines{});
 }
 
+TEST_F(OperatorCommands, WordsThatACommandDoesNotTakeAreRefused) {
+  EXPECT_EQ(bench.play("frames 12 13\nanswer Yes please\ndrop-file Pad.LabelPad\n \t\n"),
+            (Lines{R"({"event":"refused","line":1,"why":"more words than frames takes"})",
+                   R"({"event":"refused","line":2,"why":"more words than answer takes"})",
+                   R"({"event":"refused","line":3,"why":"no file"})"}));
+  EXPECT_EQ(bench.front.frames(), 1);
+  EXPECT_EQ(quietly("frames  12 \n"), Lines{});
+  EXPECT_EQ(bench.front.frames(), 12);
+}
+
+TEST_F(OperatorCommands, KeysThatTheStoreCannotGiveBackAreRefused) {
+  EXPECT_EQ(bench.play("setting A ;b c\nsetting A b=c d\nsetting A b ;c=d\n"),
+            (Lines{R"({"event":"refused","line":1,"why":"';b' is no key"})",
+                   R"({"event":"refused","line":2,"why":"'b=c' is no key"})"}));
+  EXPECT_EQ(bench.session().settings.get("A", "b", ""), ";c=d");
+}
+
 TEST_F(OperatorCommands, FramesAreCountedFromOne) {
   EXPECT_EQ(bench.front.frames(), 1);
   quietly("frames 12\n");

@@ -37,6 +37,14 @@ class ShowEvent : public ::testing::Test {
   ScriptBench bench;
 };
 
+TEST_F(ShowEvent, NumbersHaveNoExponent) {
+  pad.LabelPad.setBox({-0.00001F, 0, 100000, 1e10F});
+  const std::string event = shown("LabelPad");
+  EXPECT_NE(event.find(R"("left":-0.00001,"top":0,"width":100000,"height":10000000000,)"),
+            std::string::npos)
+      << event;
+}
+
 TEST_F(ShowEvent, OfALabelHasItsCaption) {
   EXPECT_EQ(shown("LabelPad"), state("LabelPad", "label", R"(,"caption":"a label")"));
 }
