@@ -69,7 +69,11 @@ void saveFile(front::Session& session) {
 
 void saveFileAs(front::Session& session) {
   const std::string folder{text::withoutLast(session.opening.PoserLocation, 1)};
-  if (session.opening.PendingTempSave) return storePendingResult(session, folder);
+  if (session.opening.PendingTempSave) {
+    storePendingResult(session, folder);
+    session.opening.PathsEdited = false;
+    return;
+  }
   PathSlots slots = slotsForFile(session.opening);
   // Without the blank and the colon: the line that this save has always written.
   if (!slots.obj.empty()) slots.obj.insert(0, "figureResFile");
