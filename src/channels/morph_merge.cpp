@@ -160,8 +160,11 @@ void mergeMorph(front::Session& session, CopyRun& run) {
   LateFailure<text::LineReader> destination(
       [&] { return std::make_unique<text::LineReader>(disk, session.opening.DestPath); });
   session.hourglass(true);
-  Merge(session, run, out.get(), extract.get(), destination.get()).pass();
-  out.get().close();
+  // Of several that failed the one that is used first tells.
+  text::LineReader& read = destination.get();
+  text::LineWriter& written = out.get();
+  Merge(session, run, written, extract.get(), read).pass();
+  written.close();
   text::ignoringErrors([&] { disk.remove(extractFile); });
 }
 
