@@ -67,6 +67,21 @@ TEST_F(ControlsTest, AControlIsSeenAndReachedExactlyWhenItSaysSo) {
   EXPECT_FALSE(label.isVisible());
   EXPECT_FALSE(label.isEnabled());
   EXPECT_EQ(label.toolTip(), "a tip");
+  form.Name.setTip("");
+  dispatcher.sync();
+  EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(ControlsTest, APictureHasAHintUntilItsControlHasATip) {
+  auto& button = show<QToolButton>(form.Trash);
+  const QString hint = button.toolTip();
+  EXPECT_FALSE(hint.isEmpty());
+  form.Trash.setTip("a tip");
+  dispatcher.sync();
+  EXPECT_EQ(button.toolTip(), "a tip");
+  form.Trash.setTip("");
+  dispatcher.sync();
+  EXPECT_EQ(button.toolTip(), hint);
 }
 
 TEST_F(ControlsTest, ADisabledPictureTakesNoClick) {

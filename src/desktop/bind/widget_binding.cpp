@@ -29,7 +29,7 @@ bool isClick(const QMouseEvent& event) {
 
 WidgetBinding::WidgetBinding(Dispatcher& dispatcher, front::Control& control, QWidget& widget,
                              Clicks clicks)
-    : Binding(dispatcher, control), widget_(&widget), clicks_(clicks) {
+    : Binding(dispatcher, control), widget_(&widget), clicks_(clicks), ownTip_(widget.toolTip()) {
   widget.setObjectName(QString::fromStdString(control.name()));
   const bool takesRight = control.pressed.hasHandlers() || control.released.hasHandlers();
   if (takesRight) widget.setContextMenuPolicy(Qt::NoContextMenu);
@@ -50,12 +50,20 @@ void WidgetBinding::setShower(std::function<void(bool)> shower) {
 void WidgetBinding::refresh() {
   if (!widget_) return;
   widget_->setEnabled(control().enabled());
-  if (!control().tip().empty()) widget_->setToolTip(shown(control().tip()));
+  showTip();
   if (shower_) {
     shower_(control().visible());
   } else {
     widget_->setVisible(control().visible());
   }
+}
+
+/// A control without a tip leaves the widget its own, which some widgets change by themselves.
+void WidgetBinding::showTip() {
+  const std::string& tip = control().tip();
+  if (tip == shownTip_) return;
+  widget_->setToolTip(tip.empty() ? ownTip_ : shown(tip));
+  shownTip_ = tip;
 }
 
 bool WidgetBinding::eventFilter(QObject* watched, QEvent* event) {

@@ -53,11 +53,14 @@ class WidgetBinding : public Binding, public QObject {
  private:
   bool dragOver(QDropEvent& event) const;
   bool dropped(const QDropEvent& event);
+  void showTip();
 
   QPointer<QWidget> widget_;
   Clicks clicks_;
   std::function<void(bool)> shower_;
   bool doubleClick_ = false;
+  QString ownTip_;  ///< of the widget, for a control that has none
+  std::string shownTip_;
 };
 
 /// A key as the tools know it: "Enter", "Ctrl+F1", or the character; empty for a bare modifier.
