@@ -61,6 +61,12 @@ class Reader {
     if (begins(text, "f ")) face(text);
   }
 
+  void boundsMustHaveExtents() const {
+    for (const float bound : {reading.biggestX, reading.smallestX, reading.biggestY}) {
+      if (!std::isfinite(static_cast<float>(static_cast<double>(bound) * view_))) throw overflow;
+    }
+  }
+
  private:
   void texturePoint(std::string text) {
     if (begins(text, " ")) text = mid(text, 2);
@@ -116,20 +122,27 @@ class Reader {
       const double index = std::nearbyint(slot.empty() ? 0 : number(slot));
       if (!(index >= 1) || index > static_cast<double>(reading.vertices.size())) throw subscript;
       const auto at = reading.vertices[static_cast<std::size_t>(index) - 1];
+      mustBeOnScreen(at, corner == 0 ? 36 : view_);
       // The read of these few faces never comes to the thinning.
       if (corner < 3) ++reading.displayed;
-      if (corner > 0) mustBeOnScreen(at);
       ++corner;
     }
   }
 
-  void mustBeOnScreen(const std::array<float, 3>& at) const {
-    for (const float coordinate : at) {
-      const double scaled = view_ / 6 * (static_cast<double>(coordinate) * 6);
-      constexpr double kMost = std::numeric_limits<int>::max();
-      if (!(std::fabs(scaled + view_ / 2) < kMost)) throw overflow;
-      if (!(std::fabs(view_ - scaled) < kMost)) throw overflow;
-    }
+  /// With square views a unit is as long across and down, but for the first corner, whose places
+  /// down are reckoned by themselves.
+  void mustBeOnScreen(const std::array<float, 3>& at, double unitDown) const {
+    const auto [x, y, z] = at;
+    mustBePlace(view_ * static_cast<double>(x));
+    mustBePlace(view_ * static_cast<double>(z));
+    mustBePlace(unitDown * static_cast<double>(y));
+    mustBePlace(unitDown * static_cast<double>(z));
+  }
+
+  void mustBePlace(double scaled) const {
+    constexpr double kMost = std::numeric_limits<int>::max();
+    if (!(std::fabs(scaled + view_ / 2) < kMost)) throw overflow;
+    if (!(std::fabs(view_ - scaled) < kMost)) throw overflow;
   }
 
   static std::vector<std::string> tokens(std::string text) {
@@ -183,6 +196,8 @@ MeshReading readLines(const std::vector<std::string>& lines, double view) {
   Reader reader(view);
   try {
     for (const std::string& line : lines) reader.line(line);
+    reader.reading.toTheEnd = true;
+    reader.boundsMustHaveExtents();
   } catch (const Error error) {
     reader.reading.error = error;
   }

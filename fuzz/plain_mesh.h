@@ -24,6 +24,7 @@ struct MeshReading {
   float smallestX = 0;
   float biggestY = 0;
   std::size_t displayed = 0;  ///< corners in the display list
+  bool toTheEnd = false;      ///< every line was read, whatever came then
   bool toldAsMorph = false;
 };
 

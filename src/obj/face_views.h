@@ -19,7 +19,8 @@ class FaceViews {
  public:
   explicit FaceViews(Workshop& workshop);
 
-  /// Throws FileError subscriptOutOfRange (9) at the first index that no vertex has.
+  /// Throws FileError subscriptOutOfRange (9) at the first index that no vertex has, and overflow
+  /// (6) at the first corner, of any place in the face, that lies beyond all pixels.
   void draw(std::span<const std::size_t> indexes);
 
  private:

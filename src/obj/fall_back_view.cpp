@@ -42,13 +42,16 @@ class FallBackPass {
 
  private:
   front::PictureBox& picture() { return workshop_.form.PictureNoDX; }
+  front::Colour& fill() { return workshop_.fillWithout3D; }
 
   void take(const ObjLine& line) {
     const front::FormOBJ& form = workshop_.form;
-    if (line.kind == LineKind::group && form.OptionColorGroups.value()) {
-      fill_ = groupColours_.find(line.text).value_or(fill_);
-    } else if (line.kind == LineKind::material && form.OptionColorMaterials.value()) {
-      fill_ = materialColours_.find(line.text).value_or(fill_);
+    if (line.kind == LineKind::group) {
+      const auto colour = groupColours_.findOrDraw(line.text, workshop_.random);
+      if (form.OptionColorGroups.value()) fill() = colour;
+    } else if (line.kind == LineKind::material) {
+      const auto colour = materialColours_.findOrDraw(line.text, workshop_.random);
+      if (form.OptionColorMaterials.value()) fill() = colour;
     } else if (line.kind == LineKind::vertex) {
       vertices_.add(cut_(line.text));
     } else if (line.kind == LineKind::face) {
@@ -60,12 +63,13 @@ class FallBackPass {
   void draw(std::span<const std::size_t> indexes) {
     corners_.clear();
     if (indexes.empty()) return;
-    vertices_.firstCorner(indexes.front());  // it must be there, but does not reach the picture
+    // It must be there and have a place, but the second corner takes that place.
+    scale_.firstFrontPoint(vertices_.firstCorner(indexes.front()));
     for (const std::size_t index : indexes.subspan(1)) {
       corners_.push_back(scale_.frontPoint(vertices_.laterCorner(index)));
     }
-    if (workshop_.form.OptionNoColors.value()) fill_ = graphics::paletteColour(kPlainFill);
-    if (!corners_.empty()) picture().surface().polygon(corners_, fill_);
+    if (workshop_.form.OptionNoColors.value()) fill() = graphics::paletteColour(kPlainFill);
+    if (!corners_.empty()) picture().surface().polygon(corners_, fill());
   }
 
   Workshop& workshop_;
@@ -74,7 +78,6 @@ class FallBackPass {
   ViewScale scale_;
   FallBackVertices vertices_;
   VertexCutter cut_;
-  front::Colour fill_ = front::kBlack;
   std::vector<std::size_t> indexes_;
   std::vector<graphics::Point> corners_;
 };

@@ -66,6 +66,7 @@ void closeMagnifier(front::Session& session) {
 void startToPlay(Workshop& workshop) {
   front::FormOBJ& form = workshop.form;
   workshop.session.load(form);
+  workshop.playing = true;
   for (front::Control* control : form.controls()) {
     control->setVisible(control == &form.LabelPlay || control == &form.LabelBoss);
   }

@@ -10,6 +10,7 @@
 #include "obj/spin.h"
 #include "obj/tool_controls.h"
 #include "text/columns.h"
+#include "text/file_error.h"
 #include "text/number_text.h"
 
 #include <cmath>
@@ -51,7 +52,9 @@ double inView(float extent, float pictureSize) {
 }
 
 void setExtent(front::Label& label, double extent) {
-  label.setCaption(text::trimmed(text::numberText(static_cast<float>(extent))));
+  const auto single = static_cast<float>(extent);
+  if (!std::isfinite(single)) throw text::FileError(text::ErrorNumber::overflow);
+  label.setCaption(text::trimmed(text::numberText(single)));
 }
 
 void setExtents(Workshop& workshop) {
@@ -117,7 +120,6 @@ void RefreshOBJ(Workshop& workshop) {
   if (workshop.reading) return;
   const Reading reading(workshop);
   workshop.session.hourglass(true);
-  workshop.showChosenView();
   workshop.mesh.vertices.clear();
   MeshPass pass(workshop, nullptr);
   if (pass.run(workshop.session.opening.LabelOBJFileName.caption())) {

@@ -32,6 +32,21 @@ ViewScale::ViewScale(const front::FormOBJ& form)
   FactorY = factor(form.PictureOBJViewer.box().height, height);
 }
 
+graphics::Point ViewScale::firstFrontPoint(const Position& at) const {
+  return {toPixel(width / kShare * (static_cast<double>(at.x) * FactorX) + width / 2),
+          toPixel(height - static_cast<double>(at.y) * FactorY * FactorY)};
+}
+
+graphics::Point ViewScale::firstSidePoint(const Position& at) const {
+  return {toPixel(width / kShare * (static_cast<double>(at.z) * FactorY) + width / 2),
+          toPixel(height - static_cast<double>(at.y) * FactorY * FactorY)};
+}
+
+graphics::Point ViewScale::firstTopPoint(const Position& at) const {
+  return {toPixel(width / kShare * (static_cast<double>(at.x) * FactorX) + width / 2),
+          toPixel(static_cast<double>(at.z) * FactorY * FactorY + height / 2)};
+}
+
 graphics::Point ViewScale::frontPoint(const Position& at) const {
   return {toPixel(width / kShare * (static_cast<double>(at.x) * FactorX) + width / 2),
           toPixel(height - height / kShare * (static_cast<double>(at.y) * FactorY))};

@@ -24,6 +24,11 @@ struct ViewScale {
   double width;  ///< of PictureObjViewer2, in pixels
   double height;
 
+  // Where the first corner of a face goes, which has formulas of its own.
+  graphics::Point firstFrontPoint(const Position& at) const;
+  graphics::Point firstSidePoint(const Position& at) const;
+  graphics::Point firstTopPoint(const Position& at) const;
+
   graphics::Point frontPoint(const Position& at) const;
   graphics::Point sidePoint(const Position& at) const;
   graphics::Point topPoint(const Position& at) const;

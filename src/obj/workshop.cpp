@@ -25,14 +25,17 @@ void Workshop::restoreStart() {
   Suppress = false;
   viewed = false;
   fill = front::kBlack;
+  fillWithout3D = front::kBlack;
+  playing = false;
   random.seed(kSeed);
 }
 
-/// The mode follows the options; a flat view on show gives way to the chosen one.
+/// The mode follows the options; a flat view on show gives way to the chosen one, and so does a
+/// body that has been turned and stands still.
 void Workshop::switchView() {
-  const bool shown = flatView(viewMode).visible();
+  const bool givesWay = flatView(viewMode).visible() || (viewed && spin.SpinStopped);
   viewMode = chosenView();
-  if (shown) showChosenView();
+  if (givesWay) showChosenView();
 }
 
 ViewMode Workshop::chosenView() const {

@@ -32,7 +32,9 @@ class Workshop {
   bool Suppress = false;  ///< a read does not show its flat view before its end
   bool reading = false;   ///< a read or refresh is under way: another one does not begin
   bool viewed = false;    ///< a mesh was read to its end
-  front::Colour fill = front::kBlack;  ///< of the polygons in the flat views
+  front::Colour fill = front::kBlack;           ///< of the polygons in the flat views
+  front::Colour fillWithout3D = front::kBlack;  ///< of those in PictureNoDX
+  bool playing = false;                         ///< the form has only its two playthings on show
   std::uint64_t departures = 0;  ///< how often the form was left, for a read that meets it midway
   Spin spin;
 

@@ -36,6 +36,10 @@ struct BoxCase {
   QMessageBox::Icon icon;
   QMessageBox::StandardButtons buttons;
   front::Answer onEscape;
+
+  friend std::ostream& operator<<(std::ostream& out, const BoxCase& box) {
+    return out << "style " << box.style;
+  }
 };
 
 class BoxTest : public testing::TestWithParam<BoxCase> {};

@@ -133,7 +133,7 @@ TEST_F(FlatViews, AreDrawnAgainByRefresh) {
        "usemtl new"});
   form.key.raise("r");
   EXPECT_EQ(dots(form.PictureStore), before);
-  EXPECT_TRUE(form.PictureStore.visible());
+  EXPECT_FALSE(form.PictureStore.visible()) << "what is on show stays";
   EXPECT_EQ(drive.folder.read("Norvik/FArray.txt"), stored);
   EXPECT_EQ(form.ListGroups.count(), 1);
   EXPECT_EQ(form.ListGroupColors.count(), 1);
@@ -145,6 +145,15 @@ TEST_F(FlatViews, AreDrawnAgainByRefresh) {
   EXPECT_EQ(mesh.display.vertices.size(), 4U);
   EXPECT_EQ(mesh.display.DisplayCount, 8U);
   EXPECT_GT(mesh.display.revision, revision);
+}
+
+TEST_F(FlatViews, HoldNoCornerBeyondAllPixels) {
+  for (const char* far : {"v 0.1 1e30 0.3", "v .1e30 0.1 0.3", "v 0.1 0.1 -1e30"}) {
+    for (const char* face : {"f 1 2 2", "f 2 1 2", "f 2 2 2 1", "f 1"}) {
+      EXPECT_EQ(view({far, "v 0.2 0.5 0.3", face}), 6) << far << ", " << face;
+    }
+    EXPECT_EQ(view({far, "v 0.2 0.5 0.3", "f 2 2 2", "f 2 2 2"}), 0) << far;
+  }
 }
 
 TEST_F(FlatViews, OfAMissingFileAreNotDrawnAgain) {

@@ -116,6 +116,30 @@ TEST_F(NoDX, LosesTheDigitsThatTheOtherViewsLose) {
   EXPECT_EQ(dots(form.PictureNoDX), (std::vector<Dot>{{450, 150, kBlue}}));
 }
 
+TEST_F(NoDX, HoldsNoCornerBeyondAllPixels) {
+  for (const char* face : {"f 1 2 2", "f 2 1 2"}) {
+    put({"v 0.1 1e30 0.3", "v 0.2 0.5 0.3", face});
+    EXPECT_EQ(tests::errorNumber([&] { form.released.raise({front::MouseButton::right}); }), 6);
+  }
+}
+
+TEST_F(NoDX, GivesNewColoursThatAReadFindsAgain) {
+  const std::vector<std::string> lines{"v 0.0 0.5 0", "v 0.25 0.75 0", "g hip",
+                                       "usemtl skin", "f 1 2",         "f 1 2"};
+  put(lines);
+  form.OptionColorMaterials.setValue(true);
+  form.released.raise({front::MouseButton::right});
+  ASSERT_EQ(form.ListMATColors.count(), 1);
+  const auto groups = form.ListGroupColors.items();
+  const auto materials = form.ListMATColors.items();
+  const auto seen = dots(form.PictureNoDX);
+  EXPECT_NE(seen.at(0).colour, kBlue);
+  view(lines);
+  EXPECT_EQ(dots(form.PictureStore), seen);
+  EXPECT_EQ(form.ListGroupColors.items(), groups);
+  EXPECT_EQ(form.ListMATColors.items(), materials);
+}
+
 TEST_F(NoDX, TakesColoursThatAReadHasGiven) {
   form.ListGroupColors.add("g hip*10 20 30");
   form.ListMATColors.add("usemtl skin*1 2 3");
@@ -125,7 +149,8 @@ TEST_F(NoDX, TakesColoursThatAReadHasGiven) {
   EXPECT_EQ(dots(form.PictureNoDX), (std::vector<Dot>{{450, 150, 0x1E140A}, {480, 150, 0x1E140A}}));
   form.OptionColorMaterials.setValue(true);
   form.released.raise({front::MouseButton::right});
-  EXPECT_EQ(dots(form.PictureNoDX), (std::vector<Dot>{{450, 150, 0}, {480, 150, 0x030201}}));
+  EXPECT_EQ(dots(form.PictureNoDX), (std::vector<Dot>{{450, 150, 0x1E140A}, {480, 150, 0x030201}}))
+      << "the colour of the last face is kept for the first";
 }
 
 TEST_F(NoDX, EndsAtAnIndexWithoutAVertex) {

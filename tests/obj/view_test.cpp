@@ -103,6 +103,13 @@ TEST_F(View, KeepsBoundsFromNothing) {
   EXPECT_EQ(form.LabelBiggestY.caption(), "300");
 }
 
+TEST_F(View, OfBoundsThatNoExtentHoldsIsAnOverflow) {
+  EXPECT_EQ(view({"v 0.1 3e38 0.3", "v 0.1 0.5 0", "f 2", "f 2"}), 6);
+  EXPECT_EQ(view({"v 03e38 0.5 0.3", "v 0.1 0.5 0", "f 2", "f 2"}), 6);
+  EXPECT_EQ(view({"v -3e38 0.5 0.3", "v 0.1 0.5 0", "f 2", "f 2"}), 6);
+  EXPECT_EQ(view({"v 0.1 0.5 3e38", "v 0.1 0.5 0", "f 2", "f 2"}), 0);
+}
+
 TEST_F(View, ShowsTheToolsAndTheChosenView) {
   form.OptionSideView.setValue(true);
   EXPECT_FALSE(form.CommandListGroups.enabled());
@@ -128,6 +135,17 @@ TEST_F(View, TakesUpAnotherViewWhenItIsChosen) {
   EXPECT_FALSE(form.PictureStore.visible());
   EXPECT_TRUE(form.PictureStore3.visible());
   EXPECT_EQ(workshop.viewMode, ViewMode::top);
+}
+
+TEST_F(View, TakesTheTurnedBodysPlaceWhenItStandsStill) {
+  view({"v 0.0 1 0", "f 1", "f 1"});
+  form.key.raise("Space");  // nothing turned yet
+  EXPECT_FALSE(form.PictureStore.visible());
+  form.PictureObjViewer2.show();
+  form.OptionSideView.setValue(true);
+  form.OptionSideView.clicked.raise();
+  EXPECT_FALSE(form.PictureObjViewer2.visible());
+  EXPECT_TRUE(form.PictureStore2.visible());
 }
 
 TEST_F(View, OfAnIndexThatNoVertexHasEndsThere) {
@@ -166,8 +184,8 @@ TEST_F(View, OfNumbersBeyondSinglePrecisionIsAnOverflow) {
 TEST_F(View, OfPlacesBeyondAnyPixelIsAnOverflow) {
   EXPECT_EQ(view({"v 0.0 1 0", "v 0.0 3e9 0", "v 0.5 1 0", "f 1 2 3", "f 1 3 3"}), kOverflow);
   EXPECT_EQ(faces().size(), 1U);
-  // As the first corner it does not reach the picture.
-  EXPECT_EQ(view({"v 0.0 1 0", "v 0.0 3e9 0", "v 0.5 1 0", "f 2 1 3", "f 1 3 3"}), 0);
+  // A first corner does not reach the picture, but has a place until the second one takes it.
+  EXPECT_EQ(view({"v 0.0 1 0", "v 0.0 3e9 0", "v 0.5 1 0", "f 2 1 3", "f 1 3 3"}), kOverflow);
 }
 
 TEST_F(View, OfALongFaceBeepsAndKeeps500Characters) {
