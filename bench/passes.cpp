@@ -89,7 +89,6 @@ void readFields(Bench& bench) {
 }
 
 void repairLineEnds(Bench& bench) {
-  bench.disk.openForWriting("C:\\f.new");
   text::ByteReader source(bench.disk, bench.path);
   text::LineWriter scratch(bench.disk, "C:\\f.new");
   figure::LineEndingRepair(source, scratch);

@@ -12,8 +12,9 @@ namespace {
 
 constexpr std::string_view kScratch = "Chop.doc";
 
-/// Takes a leading blank from each line of a block. Figures that need it need it in every line, so
-/// this looks at many bytes at a time and copies what stands between two such blanks.
+/// Takes a leading blank from each line of a block. Figures have such blanks in every line or
+/// hardly any, so blocks without one stay as they are, and of the others what stands between two
+/// blanks is copied.
 class LeadingBlanks {
  public:
   /// The lines without the blanks, good until the next call.
@@ -66,8 +67,11 @@ class LeadingBlanks {
 void SpaceChopper(front::Session& session, const std::string& path) {
   text::RewritePass pass(session.disk, path, kScratch);
   LeadingBlanks blanks;
-  pass.in().handOnLines(
-      {}, [&](std::string_view lines) { pass.out().lines(blanks.removedFrom(lines)); });
+  pass.in().handOnLines({}, [&](std::string_view lines) {
+    // As most blocks are of a figure that needs this in a few lines: one look, and through.
+    if (lines.ends_with('\n') && text::hasPlainLines(lines)) return pass.out().bytes(lines);
+    pass.out().lines(blanks.removedFrom(lines));
+  });
   pass.finish();
   session.disk.replace(kScratch, path);
 }

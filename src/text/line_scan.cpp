@@ -70,4 +70,12 @@ NORVIK_WIDE bool hasEmptyLines(std::string_view text) {
          }) > 0;
 }
 
+NORVIK_WIDE bool hasPlainLines(std::string_view text) {
+  if (text.empty()) return true;
+  if (text.front() == '\n' || text.front() == ' ' || text.back() == '\r') return false;
+  return countPairs(text, [](char c, char next) -> std::uint8_t {
+           return ((c == '\r') ^ (next == '\n')) | ((c == '\n') & (next == ' '));
+         }) == 0;
+}
+
 }  // namespace norvik::text

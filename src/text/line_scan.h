@@ -57,4 +57,8 @@ bool hasConventionalEndings(std::string_view text);
 /// Whether any of the lines in the text is empty; the text begins at the start of a line.
 bool hasEmptyLines(std::string_view text);
 
+/// Whether every line ending in the text is CR LF and no line in it begins with a blank; the text
+/// begins at the start of a line.
+bool hasPlainLines(std::string_view text);
+
 }  // namespace norvik::text

@@ -44,15 +44,26 @@ void LineWriter::flush() {
   raise(error);
 }
 
+/// Whole pages of the file are written, but for its end: the host takes a page up again for each
+/// write that begins within it.
 void LineWriter::bytes(std::string_view bytes) {
-  if (bytes.size() > free()) flush();
-  if (bytes.size() < kBlockSize / 4) {
-    put(bytes);
-  } else {
+  constexpr std::size_t kPage = 4096;
+  const auto putFirst = [&](std::size_t count) {
+    put(bytes.substr(0, count));
+    bytes.remove_prefix(count);
+  };
+  if (bytes.size() >= kBlockSize / 4) {
     // A long stretch goes from where it was read, without a copy in between.
+    putFirst((kPage - size_ % kPage) % kPage);
     flush();
-    raise(file_->write(bytes));
+    const std::string_view pages = bytes.substr(0, bytes.size() - bytes.size() % kPage);
+    raise(file_->write(pages));
+    bytes.remove_prefix(pages.size());
+  } else if (bytes.size() > free()) {
+    putFirst(free());
+    flush();
   }
+  put(bytes);
 }
 
 void LineWriter::longLine(std::string_view text) {

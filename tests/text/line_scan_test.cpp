@@ -66,6 +66,18 @@ TEST(LineScan, KnowsConventionalEndings) {
   }
 }
 
+TEST(LineScan, KnowsPlainLines) {
+  EXPECT_TRUE(hasPlainLines(""));
+  EXPECT_TRUE(hasPlainLines("a\r\n\r\nb "));
+  EXPECT_TRUE(hasPlainLines("a b\r\n\t c\r\n"));
+  const std::string far(200, 'x');
+  for (const std::string odd : {" ", " a", "a\r\n b", "\n", "a\r", "a\nb", "a\rb", "a\r\r\n"}) {
+    EXPECT_FALSE(hasPlainLines(odd)) << testing::PrintToString(odd);
+    EXPECT_FALSE(hasPlainLines(far + "\r\n" + odd + "\r\n" + far + "\r\n"))
+        << testing::PrintToString(odd);
+  }
+}
+
 TEST(LineScan, KnowsEmptyLines) {
   EXPECT_FALSE(hasEmptyLines(""));
   EXPECT_FALSE(hasEmptyLines("a\r\nb\nc\rd"));

@@ -82,6 +82,24 @@ TEST_F(LineWriterTest, KeepsTheOrderOfShortAndLongTexts) {
   EXPECT_TRUE(result == expected);
 }
 
+TEST_F(LineWriterTest, KeepsEveryByteAroundPagesAndBlocks) {
+  for (const std::size_t first : {0U, 1U, 4095U, 4096U, 4097U, 200'000U}) {
+    for (const std::size_t size : {kBlockSize / 4 - 1, kBlockSize / 4, kBlockSize - first,
+                                   kBlockSize - first + 1, kBlockSize, 2 * kBlockSize + 5}) {
+      std::string longer(size, 'y');
+      longer.back() = '!';
+      const std::string result = written([&](LineWriter& out) {
+        out.bytes(std::string(first, 'x'));
+        out.bytes(longer);
+        out.line("end");
+        out.bytes(longer);
+      });
+      EXPECT_TRUE(result == std::string(first, 'x') + longer + "end\r\n" + longer)
+          << first << ", " << size;
+    }
+  }
+}
+
 TEST_F(LineWriterTest, CreatesOrAppends) {
   folder.write("out", "old\r\n");
   LineWriter(disk, "C:\\OUT", LineWriter::Mode::append).line("new");
