@@ -48,8 +48,9 @@ std::optional<char32_t> takeCharacter(std::string_view& text) {
 /// A stretch of capitals, with what lies between one and its small letter. In a stretch of pairs
 /// every other character is a capital, beginning with the first.
 struct Capitals {
-  char32_t first, last;
-  int toSmall;
+  char32_t first = 0;
+  char32_t last = 0;
+  int toSmall = 0;
   bool pairs = false;
 };
 
