@@ -5,7 +5,7 @@
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
-// DRIVE is the host folder of drive C, with the sample figures in it.
+// DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
 #include "desktop/operator.h"
 #include "desktop/spin_timing.h"
