@@ -2,82 +2,20 @@
 
 #include "front/picture_box.h"
 #include "graphics/bmp.h"
+#include "headless/arguments.h"
 #include "headless/control_state.h"
 #include "text/columns.h"
 
-#include <charconv>
 #include <optional>
+#include <utility>
 
 namespace norvik::headless {
 
 namespace {
 
-/// Why a command is not carried out; caught where the line is run.
-struct Refused {
-  std::string why;
-};
-
-int wholeNumber(const std::string& word) {
-  int number = 0;
-  const auto result = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (word.empty() || result.ec != std::errc{} || result.ptr != word.data() + word.size()) {
-    throw Refused{"'" + word + "' is no whole number"};
-  }
-  return number;
-}
-
-int within(int number, int least, int most) {
-  if (number < least || number > most) {
-    throw Refused{std::to_string(number) + " is not from " + std::to_string(least) + " to " +
-                  std::to_string(most)};
-  }
-  return number;
-}
-
-bool isOn(const std::string& word) {
-  if (word != "on" && word != "off") throw Refused{"'" + word + "' is neither on nor off"};
-  return word == "on";
-}
-
-front::Answer answerNamed(const std::string& word) {
-  static const std::map<std::string, front::Answer, std::less<>> answers{
-      {"OK", front::Answer::ok},
-      {"Cancel", front::Answer::cancel},
-      {"Yes", front::Answer::yes},
-      {"No", front::Answer::no}};
-  const auto found = answers.find(word);
-  if (found == answers.end()) throw Refused{"'" + word + "' is not OK, Cancel, Yes or No"};
-  return found->second;
-}
-
-front::Mouse mouseAt(ScriptLine& line) {
-  front::Mouse mouse;
-  mouse.x = wholeNumber(line.word());
-  mouse.y = wholeNumber(line.word());
-  const std::string button = line.word();
-  if (!button.empty() && button != "right") throw Refused{"'" + button + "' is not right"};
-  if (button == "right") mouse.button = front::MouseButton::right;
-  return mouse;
-}
-
 std::string nameOf(const front::Session& session, const front::Control& control) {
   const bool onMainForm = &control.form() == &session.opening;
   return onMainForm ? control.name() : control.form().name() + "." + control.name();
-}
-
-/// A slip of the pen must not pass for the command that it is most like: those that do not take the
-/// rest of their line have no more words than these.
-void refuseSurplus(const std::string& command, const ScriptLine& line) {
-  static const std::map<std::string, int, std::less<>> mostWords{
-      {"answer", 1},       {"cancel", 0},      {"colour", 3},  {"accept", 0},   {"start", 0},
-      {"exit", 0},         {"click", 1},       {"hover", 1},   {"drop", 2},     {"tick", 3},
-      {"double-click", 1}, {"right-click", 1}, {"key", 2},     {"set", 2},      {"caret", 3},
-      {"press", 4},        {"drag", 4},        {"release", 4}, {"timer", 1},    {"frames", 1},
-      {"load", 1},         {"close", 1},       {"show", 1},    {"show-form", 1}};
-  const auto most = mostWords.find(command);
-  if (most != mostWords.end() && line.wordsLeft() > most->second) {
-    throw Refused{"more words than " + command + " takes"};
-  }
 }
 
 /// Runs a step on the disk or the settings that the script itself asks for.
@@ -114,8 +52,12 @@ void Commands::run(ScriptLine line) {
     const std::string name = line.word();
     const auto command = commands_.find(name);
     if (command == commands_.end()) throw Refused{"no command '" + name + "'"};
-    refuseSurplus(name, line);
-    command->second(line);
+    const auto& [mostWords, carryOut] = command->second;
+    // A slip of the pen must not pass for the command that it is most like.
+    if (mostWords != kAny && line.wordsLeft() > mostWords) {
+      throw Refused{"more words than " + name + " takes"};
+    }
+    carryOut(line);
   } catch (const Refused& refused) {
     outcome_.refused = true;
     transcript_.print(JsonObject("refused").number("line", line.number()).text("why", refused.why));
@@ -183,18 +125,20 @@ front::ListBox& Commands::selectItem(ScriptLine& line) {
   return list;
 }
 
+void Commands::add(const char* name, int mostWords, std::function<void(ScriptLine&)> carryOut) {
+  commands_[name] = {mostWords, std::move(carryOut)};
+}
+
 void Commands::addAnswers() {
-  commands_["answer"] = [this](ScriptLine& line) {
-    front_.answers().queueBox(answerNamed(line.word()));
-  };
-  commands_["choose"] = [this](ScriptLine& line) {
+  add("answer", 1,
+      [this](ScriptLine& line) { front_.answers().queueBox(answerNamed(line.word())); });
+  add("choose", kAny, [this](ScriptLine& line) {
     front_.answers().queueDialog({DialogAnswer::Kind::file, line.rest()});
-  };
-  commands_["cancel"] = [this](ScriptLine&) { front_.answers().queueDialog({}); };
-  commands_["accept"] = [this](ScriptLine&) {
-    front_.answers().queueDialog({DialogAnswer::Kind::print});
-  };
-  commands_["colour"] = [this](ScriptLine& line) {
+  });
+  add("cancel", 0, [this](ScriptLine&) { front_.answers().queueDialog({}); });
+  add("accept", 0,
+      [this](ScriptLine&) { front_.answers().queueDialog({DialogAnswer::Kind::print}); });
+  add("colour", 3, [this](ScriptLine& line) {
     constexpr int kMost = 255;
     const auto part = [&line] {
       return static_cast<unsigned>(within(wholeNumber(line.word()), 0, kMost));
@@ -204,104 +148,102 @@ void Commands::addAnswers() {
     const unsigned blue = part();
     front_.answers().queueDialog(
         {DialogAnswer::Kind::colour, {}, front::colourOf(red, green, blue)});
-  };
+  });
 }
 
 void Commands::addProgram() {
   const auto unload = [this](front::Form& form) {
     session_.deliver([&] { session_.unload(form); });
   };
-  commands_["start"] = [this](ScriptLine&) {
+  add("start", 0, [this](ScriptLine&) {
     if (session_.opening.loaded()) throw Refused{"the program has started"};
     workbench_.start();
-  };
-  commands_["exit"] = [this, unload](ScriptLine&) {
+  });
+  add("exit", 0, [this, unload](ScriptLine&) {
     // Also a program that never started ends by its exit steps.
     session_.opening.setLoaded(true);
     unload(session_.opening);
-  };
-  commands_["load"] = [this](ScriptLine& line) {
+  });
+  add("load", 1, [this](ScriptLine& line) {
     const std::string name = line.word();
     front::Form* form = session_.findForm(name);
     if (form == nullptr) throw Refused{"no form '" + name + "'"};
     if (form == &session_.opening) throw Refused{"the main form is loaded by start"};
     if (form->loaded()) throw Refused{"the form " + form->name() + " is loaded"};
     session_.deliver([&] { session_.load(*form); });
-  };
-  commands_["close"] = [this, unload](ScriptLine& line) { unload(reachForm(line.word())); };
-  commands_["frames"] = [this](ScriptLine& line) {
+  });
+  add("close", 1, [this, unload](ScriptLine& line) { unload(reachForm(line.word())); });
+  add("frames", 1, [this](ScriptLine& line) {
     constexpr int kMost = 1'000'000;
     front_.setFrames(within(wholeNumber(line.word()), 1, kMost));
-  };
-  commands_["timer"] = [this](ScriptLine& line) {
+  });
+  add("timer", 1, [this](ScriptLine& line) {
     auto* timer = dynamic_cast<front::Timer*>(&find(line.word()));
     if (timer == nullptr) throw Refused{"not a timer"};
     acts_.expire(*timer);
-  };
+  });
 }
 
 void Commands::addMouse() {
-  commands_["click"] = [this](ScriptLine& line) { acts_.click(reach(line.word())); };
-  commands_["right-click"] = [this](ScriptLine& line) {
+  add("click", 1, [this](ScriptLine& line) { acts_.click(reach(line.word())); });
+  add("right-click", 1, [this](ScriptLine& line) {
     const std::string name = line.word();
     if (session_.findForm(name) != nullptr) {
       acts_.rightClick(reachForm(name));
     } else {
       acts_.rightClick(reach(name));
     }
-  };
-  commands_["double-click"] = [this](ScriptLine& line) { acts_.doubleClick(reach(line.word())); };
-  commands_["hover"] = [this](ScriptLine& line) { acts_.hover(reach(line.word())); };
-  commands_["press"] = [this](ScriptLine& line) {
+  });
+  add("double-click", 1, [this](ScriptLine& line) { acts_.doubleClick(reach(line.word())); });
+  add("hover", 1, [this](ScriptLine& line) { acts_.hover(reach(line.word())); });
+  add("press", 4, [this](ScriptLine& line) {
     front::Control& control = reach(line.word());
     acts_.press(control, mouseAt(line));
-  };
-  commands_["drag"] = [this](ScriptLine& line) {
+  });
+  add("drag", 4, [this](ScriptLine& line) {
     front::Control& control = reach(line.word());
     acts_.move(control, mouseAt(line));
-  };
-  commands_["release"] = [this](ScriptLine& line) {
+  });
+  add("release", 4, [this](ScriptLine& line) {
     front::Control& control = reach(line.word());
     acts_.release(control, mouseAt(line));
-  };
-  commands_["drop"] = [this](ScriptLine& line) {
+  });
+  add("drop", 2, [this](ScriptLine& line) {
     front::Control& from = reach(line.word());
     acts_.drop(from, reach(line.word()));
-  };
-  commands_["drop-file"] = [this](ScriptLine& line) {
+  });
+  add("drop-file", kAny, [this](ScriptLine& line) {
     front::Control& onto = reach(line.lastWord());
     const std::string path = line.rest();
     if (path.empty()) throw Refused{"no file"};
     acts_.dropFile(path, onto);
-  };
+  });
 }
 
 void Commands::addLists() {
-  commands_["select"] = [this](ScriptLine& line) {
+  add("select", kAny, [this](ScriptLine& line) {
     auto& list = reachAs<front::ListBox>(line.word(), "list box");
     std::vector<int> indexes;
     while (line.hasMore()) {
       indexes.push_back(within(wholeNumber(line.word()), 0, list.count() - 1));
     }
     acts_.select(list, indexes);
-  };
-  commands_["item"] = [this](ScriptLine& line) { selectItem(line); };
-  commands_["double-click-item"] = [this](ScriptLine& line) {
-    acts_.doubleClick(selectItem(line));
-  };
-  commands_["tick"] = [this](ScriptLine& line) {
+  });
+  add("item", kAny, [this](ScriptLine& line) { selectItem(line); });
+  add("double-click-item", kAny, [this](ScriptLine& line) { acts_.doubleClick(selectItem(line)); });
+  add("tick", 3, [this](ScriptLine& line) {
     auto& list = reachAs<front::ListBox>(line.word(), "list box");
     const int index = within(wholeNumber(line.word()), 0, list.count() - 1);
     acts_.tick(list, index, isOn(line.word()));
-  };
+  });
 }
 
 void Commands::addInput() {
-  commands_["type"] = [this](ScriptLine& line) {
+  add("type", kAny, [this](ScriptLine& line) {
     auto& box = reachAs<front::TextBox>(line.word(), "text control");
     acts_.type(box, line.rest());
-  };
-  commands_["key"] = [this](ScriptLine& line) {
+  });
+  add("key", 2, [this](ScriptLine& line) {
     const std::string name = line.word();
     const std::string key = line.word();
     if (key.empty()) throw Refused{"no key"};
@@ -311,22 +253,22 @@ void Commands::addInput() {
     } else {
       acts_.key(reach(name), key);
     }
-  };
-  commands_["set"] = [this](ScriptLine& line) {
+  });
+  add("set", 2, [this](ScriptLine& line) {
     auto& slider = reachAs<front::Slider>(line.word(), "slider");
     acts_.setSlider(slider, within(wholeNumber(line.word()), slider.least(), slider.most()));
-  };
-  commands_["caret"] = [this](ScriptLine& line) {
+  });
+  add("caret", 3, [this](ScriptLine& line) {
     auto& box = reachAs<front::TextBox>(line.word(), "text control");
     const int size = static_cast<int>(box.text().size());
     const int position = within(wholeNumber(line.word()), 0, size);
     const int length = line.hasMore() ? within(wholeNumber(line.word()), 0, size - position) : 0;
     acts_.placeCaret(box, static_cast<std::size_t>(position), static_cast<std::size_t>(length));
-  };
+  });
 }
 
 void Commands::addDisk() {
-  commands_["setting"] = [this](ScriptLine& line) {
+  add("setting", kAny, [this](ScriptLine& line) {
     const std::string section = line.word();
     const std::string key = line.word();
     if (key.empty()) throw Refused{"no key"};
@@ -334,41 +276,40 @@ void Commands::addDisk() {
     const bool writable = key.find_first_of("=;#[") == std::string::npos;
     if (!writable) throw Refused{"'" + key + "' is no key"};
     orRefuse([&] { session_.settings.set(section, key, line.rest()); });
-  };
-  commands_["attribute"] = [this](ScriptLine& line) {
+  });
+  add("attribute", kAny, [this](ScriptLine& line) {
     const std::string attribute = line.lastWord();
     if (attribute != "read-only" && attribute != "normal") {
       throw Refused{"'" + attribute + "' is neither read-only nor normal"};
     }
     const std::string path = line.rest();
     orRefuse([&] { session_.disk.setReadOnly(path, attribute == "read-only"); });
-  };
-  commands_["chdir"] = [this](ScriptLine& line) {
-    orRefuse([&] { session_.disk.changeFolder(line.rest()); });
-  };
+  });
+  add("chdir", kAny,
+      [this](ScriptLine& line) { orRefuse([&] { session_.disk.changeFolder(line.rest()); }); });
 }
 
 void Commands::addOutput() {
-  commands_["show"] = [this](ScriptLine& line) {
+  add("show", 1, [this](ScriptLine& line) {
     const front::Control& control = find(line.word());
     transcript_.print(showEvent(control, nameOf(session_, control)));
-  };
-  commands_["show-form"] = [this](ScriptLine& line) {
+  });
+  add("show-form", 1, [this](ScriptLine& line) {
     for (const front::Control* control : loadedForm(line.word()).controls()) {
       transcript_.print(showEvent(*control, nameOf(session_, *control)));
     }
-  };
-  commands_["save-picture"] = [this](ScriptLine& line) { savePicture(line); };
-  commands_["echo"] = [this](ScriptLine& line) {
+  });
+  add("save-picture", kAny, [this](ScriptLine& line) { savePicture(line); });
+  add("echo", kAny, [this](ScriptLine& line) {
     transcript_.print(JsonObject("echo").text("text", line.rest()));
-  };
-  commands_["expect"] = [this](ScriptLine& line) { checkProperty(line); };
-  commands_["expect-box"] = [this](ScriptLine& line) {
+  });
+  add("expect", kAny, [this](ScriptLine& line) { checkProperty(line); });
+  add("expect-box", kAny, [this](ScriptLine& line) {
     const std::string wanted = line.rest();
     if (!text::holds(front_.lastBox(), wanted)) {
       fail(line, "the last box says '" + front_.lastBox() + "', not '" + wanted + "'");
     }
-  };
+  });
 }
 
 void Commands::checkProperty(ScriptLine& line) {

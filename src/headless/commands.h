@@ -22,8 +22,13 @@ class Commands {
   void run(ScriptLine line);
 
  private:
-  using Command = std::function<void(ScriptLine&)>;
+  struct Command {
+    int mostWords = 0;  ///< kAny of one that takes the rest of its line, or a list
+    std::function<void(ScriptLine&)> carryOut;
+  };
+  static constexpr int kAny = -1;
 
+  void add(const char* name, int mostWords, std::function<void(ScriptLine&)> carryOut);
   void addAnswers();
   void addProgram();
   void addMouse();

@@ -8,8 +8,6 @@
 #include "text/number_text.h"
 #include "text/rewrite_pass.h"
 
-#include <cmath>
-
 namespace norvik::obj {
 
 namespace {
@@ -42,9 +40,7 @@ std::string raisedHeight(std::string_view y) {
     divisor *= kTen;
   }
   const double raised = leadingNumber(whole) + leadingNumber(fraction) / divisor;
-  const auto single = static_cast<float>(raised);
-  if (!std::isfinite(single)) throw text::FileError(text::ErrorNumber::overflow);
-  return std::string{text::trimmed(text::numberText(single))};
+  return std::string{text::trimmed(text::numberText(toSingle(raised)))};
 }
 
 void rewriteLowMesh(front::Session& session, const std::string& path) {

@@ -48,11 +48,14 @@ double leadingNumber(std::string_view text) {
   return numberOf(firstWord(text));
 }
 
-float leadingSingle(std::string_view text) {
-  const double number = leadingNumber(text);
+float toSingle(double number) {
   const auto single = static_cast<float>(number);
   if (!std::isfinite(single)) throw text::FileError(text::ErrorNumber::overflow);
   return single;
+}
+
+float leadingSingle(std::string_view text) {
+  return toSingle(leadingNumber(text));
 }
 
 std::size_t leadingIndex(std::string_view text) {

@@ -11,7 +11,10 @@ namespace norvik::obj {
 /// a slash, does not count.
 double leadingNumber(std::string_view text);
 
-/// The same in single precision. Throws FileError overflow (6) when that cannot hold it.
+/// A number in single precision. Throws FileError overflow (6) when that cannot hold it.
+float toSingle(double number);
+
+/// The leading number in single precision, as toSingle.
 float leadingSingle(std::string_view text);
 
 /// The leading number as an index: rounded, halves to the even number; 0 for a negative number and

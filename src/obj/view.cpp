@@ -5,12 +5,12 @@
 #include "obj/mesh_pass.h"
 #include "obj/mesh_path.h"
 #include "obj/morph_picture.h"
+#include "obj/obj_number.h"
 #include "obj/reading.h"
 #include "obj/reset.h"
 #include "obj/spin.h"
 #include "obj/tool_controls.h"
 #include "text/columns.h"
-#include "text/file_error.h"
 #include "text/number_text.h"
 
 #include <cmath>
@@ -52,9 +52,7 @@ double inView(float extent, float pictureSize) {
 }
 
 void setExtent(front::Label& label, double extent) {
-  const auto single = static_cast<float>(extent);
-  if (!std::isfinite(single)) throw text::FileError(text::ErrorNumber::overflow);
-  label.setCaption(text::trimmed(text::numberText(single)));
+  label.setCaption(text::trimmed(text::numberText(toSingle(extent))));
 }
 
 void setExtents(Workshop& workshop) {

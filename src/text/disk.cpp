@@ -174,14 +174,14 @@ std::uint64_t Disk::size(std::string_view path) const {
   return locateFile(path).status.size;
 }
 
+bool Disk::areOneFile(const Place& one, const Place& other) const {
+  if (one.status.serial == 0) return followLinks(host_, one.name) == followLinks(host_, other.name);
+  return one.status.serial == other.status.serial && one.status.medium == other.status.medium;
+}
+
 bool Disk::isSameFile(std::string_view left, std::string_view right) const {
   try {
-    const Place one = locateFile(left);
-    const Place other = locateFile(right);
-    const bool told = one.status.serial != 0;
-    return told ? one.status.serial == other.status.serial &&
-                      one.status.medium == other.status.medium
-                : followLinks(host_, one.name) == followLinks(host_, other.name);
+    return areOneFile(locateFile(left), locateFile(right));
   } catch (const FileError&) {
     return false;
   }
@@ -289,7 +289,7 @@ void Disk::replace(std::string_view scratch, std::string_view target) {
   if (!old.exists()) return rename(scratch, target);
   const Place made = locateFile(scratch);
   const std::string name = followLinks(host_, old.name);
-  if (followLinks(host_, made.name) == name) return;
+  if (areOneFile(made, old)) return;
   syncFile(made.name);
   keepIdentity(host_, made.name, old.status);
   moveFile(host_, made.name, name, true);

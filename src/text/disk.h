@@ -96,6 +96,7 @@ class Disk {
   Place locateExisting(std::string_view path) const;
   Place locateFile(std::string_view path) const;
   Place locateWritable(std::string_view path) const;
+  bool areOneFile(const Place& one, const Place& other) const;
   std::unique_ptr<HostFile> open(const std::string& name, HostOpenMode mode) const;
   void syncFile(const std::string& name) const;
   void respell(const std::string& name, std::string_view path);

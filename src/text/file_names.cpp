@@ -54,7 +54,7 @@ struct Capitals {
   bool pairs = false;
 };
 
-constexpr std::array<Capitals, 16> kCapitals{{{U'A', U'Z', 0x20},
+constexpr std::array<Capitals, 17> kCapitals{{{U'A', U'Z', 0x20},
                                               {0xC0, 0xD6, 0x20},
                                               {0xD8, 0xDE, 0x20},
                                               {0x100, 0x12E, 1, true},
@@ -65,6 +65,7 @@ constexpr std::array<Capitals, 16> kCapitals{{{U'A', U'Z', 0x20},
                                               {0x179, 0x17D, 1, true},
                                               {0x386, 0x386, 0x26},
                                               {0x388, 0x38A, 0x25},
+                                              {0x38C, 0x38C, 0x40},
                                               {0x38E, 0x38F, 0x3F},
                                               {0x391, 0x3A1, 0x20},
                                               {0x3A3, 0x3AB, 0x20},

@@ -2,6 +2,8 @@
 
 #include "desktop/options.h"
 
+#include "support/understood.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -9,14 +11,8 @@
 namespace norvik::desktop {
 namespace {
 
-/// Whether the arguments are understood.
 bool understood(const std::vector<std::string>& arguments) {
-  try {
-    parseOptions(arguments);
-  } catch (const workbench::BadOption&) {
-    return false;
-  }
-  return true;
+  return tests::understood(parseOptions, arguments);
 }
 
 TEST(WindowOptions, AreTakenInBothForms) {

@@ -1,6 +1,7 @@
 // Whole runs: where drives, folders and settings come from, and what is stored for the next run.
 
 #include "headless/script_bench.h"
+#include "support/understood.h"
 
 #include <gtest/gtest.h>
 
@@ -273,14 +274,8 @@ TEST_F(Runs, ASettingsFileThatIsMissingIsMade) {
   EXPECT_EQ(folder.read("new folder/norvik.ini"), "[A]\nb=c\n");
 }
 
-/// Whether the arguments are understood.
 bool understood(const std::vector<std::string>& arguments) {
-  try {
-    parseOptions(arguments);
-  } catch (const workbench::BadOption&) {
-    return false;
-  }
-  return true;
+  return tests::understood(parseOptions, arguments);
 }
 
 TEST(RunnerOptions, HaveTheirDefaults) {
