@@ -49,6 +49,7 @@ bool copyLine(front::Session& session, CopyRun& run, int index) {
 void offerResult(front::Session& session) {
   front::Opening& opening = session.opening;
   const std::string& proposed = opening.LabelFileNameForEditor.caption();
+  const front::ResultOffer offer(session, opening.inProgramFolder(kMergedFile), opening.DestPath);
   const front::Answer answer =
       session.front.messageBox("Channel/s in " + opening.LabelChannelFileNameForEditor.caption() +
                                    " inserted into " + opening.DestPath + ".  Save changes?",

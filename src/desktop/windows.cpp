@@ -1,6 +1,6 @@
 #include "desktop/windows.h"
 
-#include "desktop/window/mesh_window.h"
+#include "desktop/forms/form_windows.h"
 
 #include <QCoreApplication>
 
@@ -52,13 +52,7 @@ std::unique_ptr<FormWindow> Windows::makeWindow(front::Form& form) {
   const auto unload = [this, &form] {
     if (form.loaded()) dispatcher_.run([&] { session_.unload(form); });
   };
-  if (auto* workshop = dynamic_cast<front::FormOBJ*>(&form); workshop != nullptr) {
-    return std::make_unique<MeshWindow>(maker_, session_, *workshop, frontEnd_, unload,
-                                        main_.get());
-  }
-  auto window = std::make_unique<FormWindow>(maker_, form, unload, main_.get());
-  window->placeAll();
-  return window;
+  return makeFormWindow(form, {maker_, session_, frontEnd_, unload, main_.get()});
 }
 
 FormWindow& Windows::windowOf(front::Form& form) {

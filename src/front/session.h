@@ -22,6 +22,12 @@ struct Routines {
   std::function<void(const std::string& path)> ViewChannels;
 };
 
+/// A finished scratch file, and the figure that it was made from. Both are system paths.
+struct Result {
+  std::string scratch;
+  std::string figure;
+};
+
 /// A tool gets a reference to it when it is wired, and keeps it: the session outlives every
 /// handler.
 class Session {
@@ -36,6 +42,9 @@ class Session {
   Opening& opening;
   Routines routines;
   std::string commandLine;  ///< the program's, as it stands
+
+  /// The finished result that is on offer just now; empty paths while none is.
+  const Result& offered() const { return offered_; }
 
   /// All forms by name, the main form first.
   void addForm(Form& form) { forms_.push_back(&form); }
@@ -58,7 +67,28 @@ class Session {
   void offerToClearReadOnly(std::string_view path);
 
  private:
+  friend class ResultOffer;
   std::vector<Form*> forms_;
+  Result offered_;
+};
+
+/// A tool's word, while it lives, that its result is whole and that the operator is asked whether
+/// it may take the figure's place: a front end can show beside the question how the two differ.
+///
+///     const ResultOffer offer(session, scratch, figure);
+///     if (session.front.messageBox("... Save changes?", ...) != Answer::yes) return;
+class ResultOffer {
+ public:
+  ResultOffer(Session& session, std::string_view scratch, std::string_view figure)
+      : session_(session) {
+    session.offered_ = {std::string{scratch}, std::string{figure}};
+  }
+  ResultOffer(const ResultOffer&) = delete;
+  ResultOffer& operator=(const ResultOffer&) = delete;
+  ~ResultOffer() { session_.offered_ = {}; }
+
+ private:
+  Session& session_;
 };
 
 }  // namespace norvik::front

@@ -1,0 +1,38 @@
+#include "desktop/forms/form_windows.h"
+
+#include "desktop/window/mesh_window.h"
+
+namespace norvik::desktop {
+
+namespace {
+
+using MakeWindow = std::unique_ptr<FormWindow> (*)(front::Form& form, const WindowParts& parts);
+
+struct Entry {
+  std::string_view form;
+  MakeWindow make;
+};
+
+std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<MeshWindow>(parts.maker, parts.session,
+                                      dynamic_cast<front::FormOBJ&>(form), parts.frontEnd,
+                                      parts.unload, parts.parent);
+}
+
+/// One line a form, by its name.
+constexpr Entry kWindows[] = {
+    {"FormOBJ", makeWorkshop},
+};
+
+}  // namespace
+
+std::unique_ptr<FormWindow> makeFormWindow(front::Form& form, const WindowParts& parts) {
+  for (const Entry& entry : kWindows) {
+    if (entry.form == form.name()) return entry.make(form, parts);
+  }
+  auto window = std::make_unique<FormWindow>(parts.maker, form, parts.unload, parts.parent);
+  window->placeAll();
+  return window;
+}
+
+}  // namespace norvik::desktop
