@@ -60,7 +60,7 @@ void Session::hourglass(bool on) {
 void Session::deliver(const std::function<void()>& handler) {
   const auto stopped = [this](const text::FileError& error) {
     hourglass(false);
-    front.runtimeError(error);
+    front.runtimeError({error.number(), disk.inFull(error.path()), error.act()});
   };
   try {
     handler();

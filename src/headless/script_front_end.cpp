@@ -172,9 +172,10 @@ std::string ScriptFrontEnd::now() const {
 }
 
 void ScriptFrontEnd::runtimeError(const text::FileError& error) {
-  transcript_.print(JsonObject("runtime-error")
-                        .number("number", static_cast<int>(error.number()))
-                        .text("text", error.text()));
+  JsonObject event("runtime-error");
+  event.number("number", static_cast<int>(error.number())).text("text", error.text());
+  if (!error.path().empty()) event.text("path", error.path());
+  transcript_.print(event);
 }
 
 void ScriptFrontEnd::endProcess() {

@@ -291,9 +291,11 @@ TEST_F(OperatorCommands, FormsAreShownAndUnloaded) {
 
 TEST_F(OperatorCommands, AnErrorOfTheFileLayerEndsTheHandlerAlone) {
   pad.CommandPad.clicked.add([this] { bench.disk.remove("C:\\nobody.txt"); });
-  EXPECT_EQ(bench.play("click Pad.CommandPad\necho still here\n"),
-            (Lines{R"({"event":"runtime-error","number":53,"text":"File not found"})",
-                   R"({"event":"echo","text":"still here"})"}));
+  EXPECT_EQ(
+      bench.play("click Pad.CommandPad\necho still here\n"),
+      (Lines{
+          R"({"event":"runtime-error","number":53,"text":"File not found","path":"C:\\nobody.txt"})",
+          R"({"event":"echo","text":"still here"})"}));
   EXPECT_EQ(bench.outcome.exitCode(), kDone);
 }
 

@@ -91,9 +91,12 @@ TEST_F(WaitingHandlers, ModalFormsNest) {
 
 TEST_F(WaitingHandlers, AnErrorInsideDoesNotEndTheHandlerThatWaits) {
   ask.LabelAsk.doubleClicked.add([this] { bench.disk.remove("C:\\nobody.txt"); });
-  EXPECT_EQ(bench.play("click Pad.CommandPad\ndouble-click Ask.LabelAsk\nclose Ask\n"),
-            (Lines{kModal, R"({"event":"runtime-error","number":53,"text":"File not found"})",
-                   kGone, box("the handler goes on")}));
+  EXPECT_EQ(
+      bench.play("click Pad.CommandPad\ndouble-click Ask.LabelAsk\nclose Ask\n"),
+      (Lines{
+          kModal,
+          R"({"event":"runtime-error","number":53,"text":"File not found","path":"C:\\nobody.txt"})",
+          kGone, box("the handler goes on")}));
 }
 
 TEST_F(WaitingHandlers, TheExitEndsTheRunAlsoInsideAModalForm) {
