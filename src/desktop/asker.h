@@ -5,7 +5,9 @@
 
 #include <QPrinter>
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace norvik::desktop {
@@ -15,14 +17,25 @@ class Asker {
  public:
   virtual ~Asker() = default;
 
-  virtual front::Answer box(const QString& title, const QString& text, int style) = 0;
+  struct Box {
+    QString title{};
+    QString text{};
+    int style = 0;
+    QString note{};         ///< the window's own, below the text; may be empty
+    bool cautious = false;  ///< a key pressed in haste refuses
+  };
+  virtual front::Answer box(const Box& box) = 0;
 
   struct File {
     bool save = false;
-    QString title;
-    QString filter;  ///< in the window's form; empty for all files
-    QString folder;  ///< host names
-    QString name;
+    QString title{};
+    QString filter{};  ///< in the window's form; empty for all files
+    QString folder{};  ///< host names
+    QString name{};
+    QString hint{};        ///< below the dialog's own parts; may be empty
+    QStringList places{};  ///< folders at the side, behind the usual ones
+    /// The host path of a path on a drive such as C:\Poser; empty for any other text.
+    std::function<QString(const QString&)> hostPath{};
   };
   virtual std::optional<QString> file(const File& file) = 0;
   virtual std::optional<front::Colour> colour(front::Colour initial) = 0;

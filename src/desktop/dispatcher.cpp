@@ -9,6 +9,7 @@ bool Dispatcher::run(const std::function<void()>& handler) {
   session_->deliver(handler);
   open_ = true;
   sync();
+  if (rest_) rest_();
   return true;
 }
 

@@ -15,11 +15,15 @@ namespace norvik::desktop {
 class Dispatcher {
  public:
   void attach(front::Session& session) { session_ = &session; }
+  bool attached() const { return session_ != nullptr; }
   front::Session& session() const { return *session_; }
   void setSync(std::function<void()> sync) { sync_ = std::move(sync); }
 
   /// Whether what happens now is delivered.
   bool open() const { return open_ && session_ != nullptr; }
+
+  /// What is done when a handler has come to its end, however it ended.
+  void setRest(std::function<void()> rest) { rest_ = std::move(rest); }
 
   /// Runs a handler through the session; false if a running one keeps the door shut.
   bool run(const std::function<void()>& handler);
@@ -55,6 +59,7 @@ class Dispatcher {
  private:
   front::Session* session_ = nullptr;
   std::function<void()> sync_;
+  std::function<void()> rest_;
   bool open_ = true;
   std::uint64_t delivered_ = 0;
 };

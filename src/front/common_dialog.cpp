@@ -8,19 +8,21 @@ std::string_view CommonDialog::fileTitle() const {
   return text::fileTitle(fileName_);
 }
 
-bool CommonDialog::open(FrontEnd& front, std::string_view folder) {
-  return show(front, FileDialog::Kind::open, "Open", folder);
+bool CommonDialog::open(FrontEnd& front, std::string_view folder, const DialogWords& words) {
+  return show(front, FileDialog::Kind::open, "Open", folder, words);
 }
 
-bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed) {
+bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed,
+                        const DialogWords& words) {
   fileName_ = proposed;
-  return show(front, FileDialog::Kind::save, "Save As", folder);
+  return show(front, FileDialog::Kind::save, "Save As", folder, words);
 }
 
 bool CommonDialog::show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
-                        std::string_view folder) {
-  const auto chosen =
-      front.fileDialog({kind, name_, std::string{title}, filter_, std::string{folder}, fileName_});
+                        std::string_view folder, const DialogWords& words) {
+  const auto chosen = front.fileDialog(
+      {kind, name_, std::string{title}, words.filter.empty() ? filter_ : std::string{words.filter},
+       std::string{folder}, fileName_, std::string{words.purpose}, std::string{words.hint}});
   if (chosen) fileName_ = *chosen;
   return chosen.has_value();
 }
