@@ -28,12 +28,11 @@ void convert(front::Session& session, const std::string& path, const std::string
   scratch.close();
 }
 
+/// Whatever fails, a whole figure stands under the name: while there is no backup, the original.
 void swap(text::Disk& disk, const std::string& path, const std::string& scratchPath,
           const std::string& backup) {
-  disk.adoptIdentity(scratchPath, path);
   text::ignoringErrors([&] { disk.remove(backup); });
-  text::ignoringErrors([&] { disk.rename(path, backup); });
-  text::ignoringErrors([&] { disk.rename(scratchPath, path); });
+  text::ignoringErrors([&] { disk.replaceKeeping(scratchPath, path, backup); });
 }
 
 }  // namespace

@@ -84,14 +84,14 @@ class Control {
   /// it.
   virtual bool reachable() const { return visible_ && enabled_; }
 
-  Event<Mouse> pressed;
-  Event<Mouse> moved;
-  Event<Mouse> released;
-  Event<> clicked;
-  Event<> doubleClicked;
-  Event<Control&> dropped;                ///< with the control that was dragged here
-  Event<const std::string&> fileDropped;  ///< with a system path
-  Event<const std::string&> key;          ///< "Enter", "Ctrl+F1", or one character
+  Event<Mouse> pressed{*this};
+  Event<Mouse> moved{*this};
+  Event<Mouse> released{*this};
+  Event<> clicked{*this};
+  Event<> doubleClicked{*this};
+  Event<Control&> dropped{*this};                ///< with the control that was dragged here
+  Event<const std::string&> fileDropped{*this};  ///< with a system path
+  Event<const std::string&> key{*this};          ///< "Enter", "Ctrl+F1", or one character
 
  protected:
   void touch();

@@ -54,10 +54,10 @@ class Form {
   /// The controls that changed since the last call, each once, in the order of their first change.
   std::vector<Control*> takeChanges();
 
-  Event<const std::string&> key;
-  Event<Mouse> released;  ///< over the form itself, where no control is
-  Event<> loading;        ///< what the form does before it is shown
-  Event<> unloading;      ///< what the form does when it is unloaded, also by its close box
+  Event<const std::string&> key{*this};
+  Event<Mouse> released{*this};  ///< over the form itself, where no control is
+  Event<> loading{*this};        ///< what the form does before it is shown
+  Event<> unloading{*this};      ///< what the form does when it is unloaded, also by its close box
 
  private:
   friend class Control;

@@ -53,7 +53,7 @@ class ListBox : public Control {
 
   bool ticked(int index) const;
   void setTicked(int index, bool ticked);
-  Event<int> tickChanged;
+  Event<int> tickChanged{*this};
 
   /// Whether a mouse press on an item starts a drag; the tool that owns the target says so.
   bool dragging() const { return dragging_; }

@@ -35,6 +35,7 @@ class Commands {
   void addLists();
   void addInput();
   void addDisk();
+  void addHistory();
   void addOutput();
 
   // A control by name. Operators reach only what is on view and enabled, in front of any modal

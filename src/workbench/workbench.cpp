@@ -11,6 +11,8 @@
 #include "figure/save.h"
 #include "figure/source_open.h"
 #include "front/help_boxes.h"
+#include "front/history_limits.h"
+#include "front/scratch_files.h"
 #include "lifecycle/closing_animation.h"
 #include "lifecycle/exit.h"
 #include "lifecycle/file_menu.h"
@@ -26,6 +28,7 @@
 #include "obj/spin.h"
 #include "obj/view.h"
 #include "obj/view_keys.h"
+#include "text/history.h"
 
 namespace norvik::workbench {
 
@@ -36,6 +39,17 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
+  setUpHistory();
+}
+
+void Workbench::setUpHistory() {
+  text::History* const history = session_.disk.history();
+  if (history == nullptr) return;
+  history->setClock([this] { return session_.front.now(); });
+  history->setLimits([this] { return front::historyLimits(session_.settings); });
+  text::ignoringErrors([&] {
+    history->setScratchFiles(session_.disk.hostPath(opening_.ProgramFolder), front::isScratchFile);
+  });
 }
 
 void Workbench::wireTools() {
@@ -68,7 +82,7 @@ void Workbench::wireTools() {
 }
 
 void Workbench::start() {
-  session_.deliver([this] { lifecycle::startProgram(session_); });
+  session_.deliver(opening_.name(), [this] { lifecycle::startProgram(session_); });
 }
 
 }  // namespace norvik::workbench

@@ -25,6 +25,7 @@ class Workbench {
 
  private:
   void wireTools();
+  void setUpHistory();
 
   front::Opening opening_;
   front::FormOBJ formObj_;
