@@ -124,10 +124,11 @@ void ScriptFrontEnd::show(front::Form& form) {
   printForm(form, "shown");
 }
 
-void ScriptFrontEnd::showModal(front::Form& form) {
+void ScriptFrontEnd::showModal(front::Form& form, const std::function<void()>& shown) {
   form.setLoaded(true);
   printForm(form, "modal");
   modals_.push_back(&form);
+  shown();
   while (form.loaded() && !ended_ && step_ && step_()) {
   }
   if (form.loaded() && unload_) unload_(form);
