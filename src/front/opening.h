@@ -33,6 +33,7 @@ class Opening : public Form, public OpeningMenus {
   std::string PoserLocation;  ///< Poser's folder with its backslash, as last read from the settings
   std::string ProgramFolder;  ///< the scratch files' folder, without a backslash at its end
   std::string DragOrigin;     ///< "Channels" or "Actors": where the mouse went down last
+  int RenameKind = 0;         ///< 48: a new name is awaited; 481: the last rename was a body part's
   bool PathsEdited = false;   ///< a path box holds a change that is not in the file yet
   bool SkipOpenDialog = false;   ///< the next open takes OpenedPath
   bool OpenCancelled = false;    ///< the operator refused a repair of line endings

@@ -2,6 +2,7 @@
 
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
+#include "channels/rename.h"
 #include "channels/trash.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
@@ -65,6 +66,7 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  channels::wireRename(session_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);
