@@ -1,7 +1,12 @@
 #include "workbench/workbench.h"
 
+#include "channels/actor_double_click.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
+#include "channels/dials/dial_tools.h"
+#include "channels/joints/joints.h"
+#include "channels/mirror/extract.h"
+#include "channels/mirror/mirror.h"
 #include "channels/trash.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
@@ -51,6 +56,11 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  channels::wireActorDoubleClick(session_);
+  channels::wireDialTools(session_);
+  channels::wireMirror(session_);
+  channels::wireExtract(session_);
+  channels::wireJoints(session_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);
