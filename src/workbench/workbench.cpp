@@ -1,8 +1,13 @@
 #include "workbench/workbench.h"
 
+#include "channels/actor_double_click.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
 #include "channels/rename.h"
+#include "channels/dials/dial_tools.h"
+#include "channels/joints/joints.h"
+#include "channels/mirror/extract.h"
+#include "channels/mirror/mirror.h"
 #include "channels/trash.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
@@ -67,6 +72,11 @@ void Workbench::wireTools() {
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
   channels::wireRename(session_);
+  channels::wireActorDoubleClick(session_);
+  channels::wireDialTools(session_);
+  channels::wireMirror(session_);
+  channels::wireExtract(session_);
+  channels::wireJoints(session_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);
