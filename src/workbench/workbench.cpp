@@ -1,6 +1,9 @@
 #include "workbench/workbench.h"
 
 #include "channels/actor_double_click.h"
+#include "builders/figures/library_file.h"
+#include "builders/figures/master_cr2.h"
+#include "builders/figures/null_figure.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
 #include "channels/rename.h"
@@ -9,6 +12,9 @@
 #include "channels/mirror/extract.h"
 #include "channels/mirror/mirror.h"
 #include "channels/trash.h"
+#include "erc/change_ratio.h"
+#include "erc/link_builder.h"
+#include "erc/ratio_listing.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
 #include "figure/material_lister.h"
@@ -42,6 +48,9 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
                      std::string programFolder, std::string commandLine)
     : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
   session_.addForm(formObj_);
+  session_.addForm(dialogErc_);
+  session_.addForm(formEcm_);
+  session_.addForm(formListEmcs_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -77,6 +86,12 @@ void Workbench::wireTools() {
   channels::wireMirror(session_);
   channels::wireExtract(session_);
   channels::wireJoints(session_);
+  erc::wireLinkBuilder(session_, dialogErc_, formEcm_);
+  erc::wireRatioListing(session_, formListEmcs_);
+  erc::wireChangeRatio(session_, formListEmcs_);
+  builders::wireMasterCr2(session_);
+  builders::wireNullFigure(session_);
+  builders::wireLibraryFile(session_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

@@ -1,6 +1,9 @@
 #pragma once
 // The assembly of the program: the forms, and every tool on its trigger.
 
+#include "erc/dialog_erc.h"
+#include "erc/form_ecm.h"
+#include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
 #include "obj/workshop.h"
@@ -29,6 +32,9 @@ class Workbench {
 
   front::Opening opening_;
   front::FormOBJ formObj_;
+  erc::DialogERC dialogErc_;
+  erc::FormECM formEcm_;
+  erc::FormListEMCs formListEmcs_;
   front::Session session_;
   obj::Workshop workshop_;
 };
