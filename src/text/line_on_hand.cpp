@@ -36,16 +36,14 @@ std::string_view lastField(std::string_view line) {
 }  // namespace
 
 LineOnHand::LineOnHand(const Disk& disk, std::string_view path, Read read)
-    : disk_(disk), path_(path), kind_(read) {
-  reopen();
-}
+    : disk_(disk), path_(path), kind_(read), in_(disk, path) {}
 
 void LineOnHand::reopen() {
-  in_.emplace(disk_, path_);
+  in_ = LineReader(disk_, path_);
 }
 
 const std::string& LineOnHand::read() {
-  line_ = kind_ == Read::lines ? in_->line() : in_->field();
+  line_ = kind_ == Read::lines ? in_.line() : in_.field();
   return line_;
 }
 
@@ -59,7 +57,7 @@ std::optional<LineFilter> LineOnHand::filterFor(Texts texts) const {
 }
 
 void LineOnHand::pass(const LineFilter& filter) {
-  in_->handOnLines(filter, [this](std::string_view lines) {
+  in_.handOnLines(filter, [this](std::string_view lines) {
     const std::string_view last = lastLine(lines);
     line_ = kind_ == Read::lines ? last.substr(0, last.find_first_of("\r\n")) : lastField(last);
   });

@@ -31,10 +31,10 @@ class LineOnHand {
   /// Throws what Disk::openForReading throws.
   LineOnHand(const Disk& disk, std::string_view path, Read read);
 
-  /// Begins at the start of the file again.
+  /// Begins at the start of the file again. Throws as the constructor does; then nothing changes.
   void reopen();
 
-  bool atEnd() { return in_->atEnd(); }
+  bool atEnd() { return in_.atEnd(); }
   const std::string& line() const { return line_; }
   void setLine(std::string_view line) { line_ = line; }
 
@@ -67,7 +67,7 @@ class LineOnHand {
   const Disk& disk_;
   std::string path_;
   Read kind_;
-  std::optional<LineReader> in_;
+  LineReader in_;
   std::string line_;
 };
 
