@@ -56,8 +56,13 @@ std::optional<LineFilter> LineOnHand::filterFor(Texts texts) const {
   return LineFilter(tokens);
 }
 
-void LineOnHand::pass(const LineFilter& filter) {
-  in_.handOnLines(filter, [this](std::string_view lines) {
+void LineOnHand::copyRest(LineWriter& out) {
+  pass(LineFilter{}, &out);
+}
+
+void LineOnHand::pass(const LineFilter& filter, LineWriter* out) {
+  in_.handOnLines(filter, [this, out](std::string_view lines) {
+    if (out != nullptr) out->lines(lines);
     const std::string_view last = lastLine(lines);
     line_ = kind_ == Read::lines ? last.substr(0, last.find_first_of("\r\n")) : lastField(last);
   });

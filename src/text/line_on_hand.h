@@ -4,6 +4,7 @@
 
 #include "text/line_filter.h"
 #include "text/line_reader.h"
+#include "text/line_writer.h"
 
 #include <initializer_list>
 #include <optional>
@@ -44,7 +45,7 @@ class LineOnHand {
   /// Reads until the line on hand is `wanted`; throws FileError inputPastEnd if none is.
   template <typename Wanted>
   const std::string& readUntil(Wanted&& wanted, Texts texts = {}) {
-    if (!searchUntil(wanted, texts)) throw FileError(ErrorNumber::inputPastEnd);
+    if (!searchUntil(wanted, texts)) read();
     return line_;
   }
 
@@ -53,16 +54,33 @@ class LineOnHand {
   bool searchUntil(Wanted&& wanted, Texts texts = {}) {
     const std::optional<LineFilter> filter = filterFor(texts);
     while (!wanted(std::string_view{line_})) {
-      if (filter) pass(*filter);
+      if (filter) pass(*filter, nullptr);
       if (atEnd()) return false;
       read();
     }
     return true;
   }
 
+  /// Reads whole lines up to the next one that is `wanted`, and writes those in front of it. The
+  /// line on hand is neither tested nor written; the one that was found is on hand and not yet
+  /// written. False at the end of the file, where the last line was written and is on hand.
+  template <typename Wanted>
+  bool copyTo(LineWriter& out, Wanted&& wanted, Texts texts = {}) {
+    const std::optional<LineFilter> filter = filterFor(texts);
+    for (;;) {
+      if (filter) pass(*filter, &out);
+      if (atEnd()) return false;
+      if (wanted(std::string_view{read()})) return true;
+      out.line(line_);
+    }
+  }
+
+  /// Writes all whole lines that are left.
+  void copyRest(LineWriter& out);
+
  private:
   std::optional<LineFilter> filterFor(Texts texts) const;
-  void pass(const LineFilter& filter);
+  void pass(const LineFilter& filter, LineWriter* out);
 
   const Disk& disk_;
   std::string path_;

@@ -1,5 +1,12 @@
 #include "workbench/workbench.h"
 
+#include "builders/phi/create_phi.h"
+#include "builders/phi/cut_branch.h"
+#include "builders/phi/edit_phi.h"
+#include "builders/phi/phi_lister.h"
+#include "builders/phi/view_phi.h"
+#include "builders/transfer/extract_part.h"
+#include "builders/transfer/graft_part.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
 #include "channels/trash.h"
@@ -33,6 +40,8 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
                      std::string programFolder, std::string commandLine)
     : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
   session_.addForm(formObj_);
+  session_.addForm(formPhi_);
+  session_.addForm(formTree_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -51,6 +60,13 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  builders::wireExtractPart(session_);
+  builders::wireGraftPart(session_);
+  builders::wireCreatePhi(session_, formPhi_);
+  builders::wireViewPhi(session_, formPhi_);
+  builders::wireEditPhi(session_, formPhi_);
+  builders::wirePhiLister(session_, formTree_);
+  builders::wireCutBranch(session_, formTree_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

@@ -1,6 +1,8 @@
 #pragma once
 // The assembly of the program: the forms, and every tool on its trigger.
 
+#include "builders/phi/form_phi.h"
+#include "builders/phi/form_tree.h"
 #include "front/form_obj.h"
 #include "front/session.h"
 #include "obj/workshop.h"
@@ -28,6 +30,8 @@ class Workbench {
 
   front::Opening opening_;
   front::FormOBJ formObj_;
+  builders::FormPhi formPhi_;
+  builders::FormTree formTree_;
   front::Session session_;
   obj::Workshop workshop_;
 };

@@ -34,7 +34,9 @@ void writeList(front::Session& session, const FormPhi& form, const std::string& 
 void save(front::Session& session, const FormPhi& form) {
   const std::string& path = form.LabelPhiFileName.caption();
   const std::string scratch = session.opening.inProgramFolder(kScratch);
-  if (session.disk.isReadOnly(path)) throw text::FileError(text::ErrorNumber::pathFileAccess);
+  if (session.disk.isReadOnly(path)) {
+    throw text::FileError(text::ErrorNumber::pathFileAccess, path, text::FileAct::deleting);
+  }
   text::keepApart(session.disk, path, scratch);
   try {
     writeList(session, form, scratch);

@@ -17,15 +17,15 @@ class FormPhi : public front::Form {
   /// The state in which the form is shown: no file, no lines, nothing to save.
   void restoreStart();
 
-  front::MenuEntry MenuPrint{*this, "MenuPrint", "Print"};
-  front::MenuEntry MenuPhiHelp{*this, "MenuPhiHelp", "Help"};
-  front::Label LabelPhiFileName{*this, "LabelPhiFileName"};
   /// The lines of the phi file.
   front::ListBox ListPhi{*this, "ListPhi"};
   /// The line that is being edited.
   front::TextBox TextPhiEdit{*this, "TextPhiEdit"};
   front::Label LabelPhiSave{*this, "LabelPhiSave", "Save File"};
   front::Label LabelPhiDone{*this, "LabelPhiDone", "Done"};
+  front::Label LabelPhiFileName{*this, "LabelPhiFileName"};
+  front::MenuEntry MenuPrint{*this, "MenuPrint", "Print"};
+  front::MenuEntry MenuPhiHelp{*this, "MenuPhiHelp", "Help"};
 };
 
 }  // namespace norvik::builders

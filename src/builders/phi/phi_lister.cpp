@@ -21,15 +21,16 @@ struct PartDepth {
 
 /// With the abdomen as 1. Fingers have the depth of their joint's number, see depthOf.
 constexpr auto kDepths = std::to_array<PartDepth>({
-    {"abdomen", 1}, {"lThigh", 1},  {"rThigh", 1}, {"chest", 2},    {"lShin", 2},    {"rShin", 2},
-    {"lCollar", 3}, {"rCollar", 3}, {"neck", 3},   {"lFoot", 3},    {"rFoot", 3},    {"lShldr", 4},
-    {"rShldr", 4},  {"head", 4},    {"lToe", 4},   {"rToe", 4},     {"lForeArm", 5}, {"rForeArm", 5},
-    {"lHand", 6},   {"rHand", 6},   {"lMid1", 7},  {"lIndex1", 7},  {"lRing1", 7},   {"lPinky1", 7},
-    {"lThumb1", 7}, {"rMid1", 7},   {"rIndex1", 7}, {"rRing1", 7},  {"rPinky1", 7},  {"rThumb1", 7},
-    {"lMid2", 8},   {"lIndex2", 8}, {"lRing2", 8}, {"lPinky2", 8},  {"lThumb2", 8},  {"rMid2", 8},
-    {"rIndex2", 8}, {"rRing2", 8},  {"rPinky2", 8}, {"rThumb2", 8}, {"lMid3", 9},    {"lIndex3", 9},
-    {"lRing3", 9},  {"lPinky3", 9}, {"lThumb3", 9}, {"rMid3", 9},   {"rIndex3", 9},  {"rRing3", 9},
-    {"rPinky3", 9}, {"rThumb3", 9},
+    {"abdomen", 1}, {"lThigh", 1},   {"rThigh", 1},   {"chest", 2},   {"lShin", 2},
+    {"rShin", 2},   {"lCollar", 3},  {"rCollar", 3},  {"neck", 3},    {"lFoot", 3},
+    {"rFoot", 3},   {"lShldr", 4},   {"rShldr", 4},   {"head", 4},    {"lToe", 4},
+    {"rToe", 4},    {"lForeArm", 5}, {"rForeArm", 5}, {"lHand", 6},   {"rHand", 6},
+    {"lMid1", 7},   {"lIndex1", 7},  {"lRing1", 7},   {"lPinky1", 7}, {"lThumb1", 7},
+    {"rMid1", 7},   {"rIndex1", 7},  {"rRing1", 7},   {"rPinky1", 7}, {"rThumb1", 7},
+    {"lMid2", 8},   {"lIndex2", 8},  {"lRing2", 8},   {"lPinky2", 8}, {"lThumb2", 8},
+    {"rMid2", 8},   {"rIndex2", 8},  {"rRing2", 8},   {"rPinky2", 8}, {"rThumb2", 8},
+    {"lMid3", 9},   {"lIndex3", 9},  {"lRing3", 9},   {"lPinky3", 9}, {"lThumb3", 9},
+    {"rMid3", 9},   {"rIndex3", 9},  {"rRing3", 9},   {"rPinky3", 9}, {"rThumb3", 9},
 });
 
 /// A name that is not known has the depth of the one before it.
@@ -77,8 +78,8 @@ void PhiLister(front::Session& session, FormTree& form) {
     const std::string name{text::from(text::before(in.line(), ":"), 7)};
     in.setLine(" ");
     depth = depthOf(name, depth);
-    form.ListPhi.add(std::string(static_cast<std::size_t>(depth) * 2, ' ') +
-                     std::to_string(depth) + "fig " + name);
+    form.ListPhi.add(std::string(static_cast<std::size_t>(depth) * 2, ' ') + std::to_string(depth) +
+                     "fig " + name);
   }
 }
 
