@@ -1,16 +1,23 @@
 #include "workbench/workbench.h"
 
-#include "channels/actor_double_click.h"
 #include "builders/figures/library_file.h"
 #include "builders/figures/master_cr2.h"
 #include "builders/figures/null_figure.h"
+#include "builders/phi/create_phi.h"
+#include "builders/phi/cut_branch.h"
+#include "builders/phi/edit_phi.h"
+#include "builders/phi/phi_lister.h"
+#include "builders/phi/view_phi.h"
+#include "builders/transfer/extract_part.h"
+#include "builders/transfer/graft_part.h"
+#include "channels/actor_double_click.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
-#include "channels/rename.h"
 #include "channels/dials/dial_tools.h"
 #include "channels/joints/joints.h"
 #include "channels/mirror/extract.h"
 #include "channels/mirror/mirror.h"
+#include "channels/rename.h"
 #include "channels/trash.h"
 #include "erc/change_ratio.h"
 #include "erc/link_builder.h"
@@ -51,6 +58,8 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(dialogErc_);
   session_.addForm(formEcm_);
   session_.addForm(formListEmcs_);
+  session_.addForm(formPhi_);
+  session_.addForm(formTree_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -92,6 +101,13 @@ void Workbench::wireTools() {
   builders::wireMasterCr2(session_);
   builders::wireNullFigure(session_);
   builders::wireLibraryFile(session_);
+  builders::wireExtractPart(session_);
+  builders::wireGraftPart(session_);
+  builders::wireCreatePhi(session_, formPhi_);
+  builders::wireViewPhi(session_, formPhi_);
+  builders::wireEditPhi(session_, formPhi_);
+  builders::wirePhiLister(session_, formTree_);
+  builders::wireCutBranch(session_, formTree_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

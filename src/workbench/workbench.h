@@ -1,6 +1,8 @@
 #pragma once
 // The assembly of the program: the forms, and every tool on its trigger.
 
+#include "builders/phi/form_phi.h"
+#include "builders/phi/form_tree.h"
 #include "erc/dialog_erc.h"
 #include "erc/form_ecm.h"
 #include "erc/form_list_emcs.h"
@@ -35,6 +37,8 @@ class Workbench {
   erc::DialogERC dialogErc_;
   erc::FormECM formEcm_;
   erc::FormListEMCs formListEmcs_;
+  builders::FormPhi formPhi_;
+  builders::FormTree formTree_;
   front::Session session_;
   obj::Workshop workshop_;
 };
