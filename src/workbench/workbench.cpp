@@ -1,5 +1,10 @@
 #include "workbench/workbench.h"
 
+#include "builders/geometry/alternate_geometry.h"
+#include "builders/scenes/avi_background.h"
+#include "builders/scenes/camera_convertor.h"
+#include "builders/scenes/mtl_creator.h"
+#include "builders/scenes/pz3_to_cr2.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
 #include "channels/trash.h"
@@ -17,6 +22,8 @@
 #include "lifecycle/help_menu.h"
 #include "lifecycle/recent_click.h"
 #include "lifecycle/start.h"
+#include "materials/material_colour.h"
+#include "materials/material_coordinator.h"
 #include "obj/fall_back_view.h"
 #include "obj/hot_keys.h"
 #include "obj/leaving.h"
@@ -33,6 +40,7 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
                      std::string programFolder, std::string commandLine)
     : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
   session_.addForm(formObj_);
+  session_.addForm(formMatCoord_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -51,6 +59,13 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  builders::wireAlternateGeometry(session_);
+  builders::wirePz3ToCr2(session_);
+  builders::wireAviBackground(session_);
+  builders::wireCameraConvertor(session_);
+  builders::wireMtlCreator(session_);
+  materials::wireMaterialColours(session_);
+  materials::wireMaterialCoordinator(session_, formMatCoord_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

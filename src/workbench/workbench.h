@@ -3,6 +3,7 @@
 
 #include "front/form_obj.h"
 #include "front/session.h"
+#include "materials/form_mat_coord.h"
 #include "obj/workshop.h"
 
 #include <string>
@@ -28,6 +29,7 @@ class Workbench {
 
   front::Opening opening_;
   front::FormOBJ formObj_;
+  materials::FormMatCoord formMatCoord_;
   front::Session session_;
   obj::Workshop workshop_;
 };

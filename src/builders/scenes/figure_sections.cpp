@@ -1,7 +1,10 @@
 #include "builders/scenes/figure_sections.h"
 
 #include "text/columns.h"
+#include "text/line_filter.h"
 #include "text/line_scan.h"
+
+#include <algorithm>
 
 namespace norvik::builders {
 
