@@ -75,7 +75,10 @@ void changeChosen(front::Session& session, front::PictureButton& swatch, std::st
   const auto colour = session.front.colourDialog(swatch.back());
   if (!colour) return;
   const auto position = prepare(session, material);
-  if (!position) throw text::FileError(text::ErrorNumber::inputPastEnd);
+  if (!position) {
+    throw text::FileError(text::ErrorNumber::inputPastEnd,
+                          session.opening.LabelFileNameForEditor.caption(), text::FileAct::reading);
+  }
   makeChange(session, {material, key, *colour, swatch}, *position);
 }
 
