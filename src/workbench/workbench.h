@@ -8,6 +8,7 @@
 #include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
+#include "materials/form_mat_coord.h"
 #include "obj/workshop.h"
 
 #include <string>
@@ -39,6 +40,7 @@ class Workbench {
   erc::FormListEMCs formListEmcs_;
   builders::FormPhi formPhi_;
   builders::FormTree formTree_;
+  materials::FormMatCoord formMatCoord_;
   front::Session session_;
   obj::Workshop workshop_;
 };
