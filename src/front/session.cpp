@@ -23,8 +23,14 @@ Form* Session::findForm(std::string_view name) const {
 void Session::load(Form& form) {
   if (form.loaded()) return;
   form.setLoaded(true);
-  form.loading.raise();
+  try {
+    form.loading.raise();
+  } catch (...) {
+    form.setLoaded(false);
+    throw;
+  }
   front.show(form);
+  form.activated.raise();
 }
 
 void Session::unload(Form& form) {

@@ -51,7 +51,7 @@ class Session {
   const std::vector<Form*>& forms() const { return forms_; }
   Form* findForm(std::string_view name) const;
 
-  /// Shows a form that is not loaded yet.
+  /// Shows a form that is not loaded yet. One whose loading fails is not shown, and not loaded.
   void load(Form& form);
   /// Unloads a form as its close box does. The main form's unloading ends the process.
   void unload(Form& form);
