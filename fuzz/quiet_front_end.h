@@ -35,7 +35,7 @@ class QuietFrontEnd final : public front::FrontEnd {
   }
   bool nextFrame() override { return false; }
   void show(front::Form&) override {}
-  void showModal(front::Form&) override {}
+  void showModal(front::Form&, const std::function<void()>& shown) override { shown(); }
   void unloaded(front::Form&) override {}
   front::Screen screen() const override { return screen_; }
   bool drawTile(front::Form&, int, int) override { return false; }

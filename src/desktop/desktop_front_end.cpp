@@ -168,11 +168,12 @@ void DesktopFrontEnd::show(front::Form& form) {
   stage_->show(form, false);
 }
 
-void DesktopFrontEnd::showModal(front::Form& form) {
+void DesktopFrontEnd::showModal(front::Form& form, const std::function<void()>& shown) {
   form.setLoaded(true);
   const ArrowMeanwhile arrow(hourglass_);
   dispatcher_.sync();
   stage_->show(form, true);
+  shown();
   const Dispatcher::Door door(dispatcher_);
   while (form.loaded()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

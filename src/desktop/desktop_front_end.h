@@ -62,7 +62,7 @@ class DesktopFrontEnd : public front::FrontEnd {
   graphics::Device3D& device(front::PictureBox& picture) override { return glDevice(picture); }
   bool nextFrame() override;
   void show(front::Form& form) override;
-  void showModal(front::Form& form) override;
+  void showModal(front::Form& form, const std::function<void()>& shown) override;
   void unloaded(front::Form& form) override;
   front::Screen screen() const override;
   bool drawTile(front::Form& form, int left, int top) override;

@@ -24,8 +24,9 @@ front::Fetched fetchInto(text::Disk& disk, std::string_view address, std::string
     return {false, static_cast<int>(reply->error()), reply->errorString().toStdString()};
   }
   const QByteArray bytes = reply->readAll();
-  text::raise(
-      disk.openForWriting(path)->write({bytes.data(), static_cast<std::size_t>(bytes.size())}));
+  const int error =
+      disk.openForWriting(path)->write({bytes.data(), static_cast<std::size_t>(bytes.size())});
+  text::raise(error, path, text::FileAct::writing);
   return {true, 0, {}};
 }
 

@@ -39,13 +39,15 @@ void startCommandLine(const text::Disk& disk, std::string_view commandLine) {
   const std::string_view program = commandLine.substr(0, programLength(disk, commandLine));
   const std::string_view rest = text::trimmed(commandLine.substr(program.size()));
   if (text::equalIgnoringCase(program, kEditor)) {
-    if (!disk.exists(rest)) throw text::FileError(text::ErrorNumber::fileNotFound);
+    if (!disk.exists(rest)) {
+      throw text::FileError(text::ErrorNumber::fileNotFound, rest, text::FileAct::lookingFor);
+    }
     QDesktopServices::openUrl(fileAddress(disk, rest));
     return;
   }
   const QString loader = QStandardPaths::findExecutable(QStringLiteral("wine"));
   if (!disk.exists(program) || loader.isEmpty()) {
-    throw text::FileError(text::ErrorNumber::fileNotFound);
+    throw text::FileError(text::ErrorNumber::fileNotFound, program, text::FileAct::lookingFor);
   }
   const QFileInfo file(hostName(disk.hostPath(program)));
   QStringList arguments{file.filePath()};

@@ -196,6 +196,9 @@ QWidget* Maker::make(front::Control& control, QWidget& parent) {
     }
     case ControlKind::drawingSurface:
       return &surface(dynamic_cast<front::PictureBox&>(control), parent);
+    case ControlKind::folderList:
+    case ControlKind::driveList:
+    case ControlKind::fileList:
     case ControlKind::timer:
     case ControlKind::menuEntry:
       return nullptr;

@@ -71,6 +71,7 @@ void ComStart(front::Session& session, std::string& path) {
   const FileKind kind = kindOf(path);
   if (kind == FileKind::pz2 || kind == FileKind::bmp) session.hourglass(false);
   if (kind != FileKind::cr2 && kind != FileKind::pz3 && kind != FileKind::obj) return;
+  opening.DestPath = path;
   CheckSGI(session, path);
   if (kind == FileKind::obj) {
     enterObjMode(session, path);

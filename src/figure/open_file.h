@@ -15,7 +15,7 @@ namespace norvik::figure {
 void openFile(front::Session& session);
 
 /// The same job for a path given at the start: cr2, pz3 and obj files alone, without the recent
-/// list, DestPath and the read-only question. A cr2 or pz3 of fewer than 100 lines, none of which
+/// list and the read-only question. A cr2 or pz3 of fewer than 100 lines, none of which
 /// begins with a blank, throws inputPastEnd (62).
 void ComStart(front::Session& session, std::string& path);
 

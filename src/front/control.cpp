@@ -46,6 +46,12 @@ std::string_view kindName(ControlKind kind) {
       return "image";
     case ControlKind::drawingSurface:
       return "drawing surface";
+    case ControlKind::folderList:
+      return "folder list";
+    case ControlKind::driveList:
+      return "drive list";
+    case ControlKind::fileList:
+      return "file list";
   }
   return "control";
 }

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik::front {
 
@@ -29,6 +30,9 @@ enum class ControlKind {
   shape,
   image,
   drawingSurface,
+  folderList,
+  driveList,
+  fileList,
 };
 
 /// The kind in words: "list box", "menu entry".
@@ -89,9 +93,10 @@ class Control {
   Event<Mouse> released;
   Event<> clicked;
   Event<> doubleClicked;
-  Event<Control&> dropped;                ///< with the control that was dragged here
-  Event<const std::string&> fileDropped;  ///< with a system path
-  Event<const std::string&> key;          ///< "Enter", "Ctrl+F1", or one character
+  Event<Control&> dropped;  ///< with the control that was dragged here
+  /// With the system paths of the files of a desktop that were dropped here as one.
+  Event<const std::vector<std::string>&> filesDropped;
+  Event<const std::string&> key;  ///< "Enter", "Ctrl+F1", or one character
 
  protected:
   void touch();

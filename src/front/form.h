@@ -57,7 +57,7 @@ class Form {
   Event<const std::string&> key;
   Event<Mouse> released;  ///< over the form itself, where no control is
   Event<> loading;        ///< what the form does before it is shown
-  Event<> activated;      ///< what it does once it is on view
+  Event<> shown;          ///< what it does once it is on view: all that a load says or asks
   Event<> unloading;      ///< what the form does when it is unloaded, also by its close box
 
  private:

@@ -6,6 +6,7 @@
 #include "front/list_box.h"
 #include "front/picture_box.h"
 #include "front/plain_controls.h"
+#include "front/rich_text.h"
 #include "front/text_controls.h"
 
 #include <array>
@@ -93,8 +94,8 @@ class FormOBJ : public Form {
   /// Hidden: a line of the mesh, "*", and its red, green and blue from 1 to 254.
   ListBox ListGroupColors{*this, "ListGroupColors"};
   ListBox ListMATColors{*this, "ListMATColors"};
-  TextBox RichTextBoxGroups{*this, "RichTextBoxGroups", ControlKind::richTextBox};
-  TextBox RichTextBoxMaterials{*this, "RichTextBoxMaterials", ControlKind::richTextBox};
+  RichTextBox RichTextBoxGroups{*this, "RichTextBoxGroups"};
+  RichTextBox RichTextBoxMaterials{*this, "RichTextBoxMaterials"};
   Label LabelRichRename{*this, "LabelRichRename", "Rename"};
   /// Hidden: an old name, "*", and the new one.
   ListBox ListGrpRen{*this, "ListGrpRen"};

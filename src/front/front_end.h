@@ -4,6 +4,7 @@
 #include "front/colours.h"
 #include "text/file_error.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -95,8 +96,8 @@ class FrontEnd {
 
   /// Shows a loaded form.
   virtual void show(Form& form) = 0;
-  /// Shows a loaded form and returns when it has been unloaded.
-  virtual void showModal(Form& form) = 0;
+  /// Shows a loaded form, calls back once it is on view, and returns when it has been unloaded.
+  virtual void showModal(Form& form, const std::function<void()>& shown) = 0;
   virtual void unloaded(Form& form) = 0;
   virtual Screen screen() const = 0;
 

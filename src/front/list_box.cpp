@@ -4,8 +4,8 @@
 
 namespace norvik::front {
 
-ListBox::ListBox(Form& form, std::string_view name, Selection selection)
-    : Control(form, name, ControlKind::listBox), selection_(selection) {}
+ListBox::ListBox(Form& form, std::string_view name, Selection selection, ControlKind kind)
+    : Control(form, name, kind), selection_(selection) {}
 
 std::string_view ListBox::item(int index) const {
   return holds(index) ? std::string_view{items_[static_cast<std::size_t>(index)]}
@@ -69,6 +69,14 @@ void ListBox::choose(int index) {
   if (!holds(index)) return;
   setSelected(index, true);
   index_ = index;
+}
+
+std::vector<int> ListBox::ticks() const {
+  std::vector<int> indexes;
+  for (int i = 0; i < count(); ++i) {
+    if (ticked(i)) indexes.push_back(i);
+  }
+  return indexes;
 }
 
 bool ListBox::ticked(int index) const {

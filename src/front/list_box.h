@@ -10,7 +10,8 @@
 
 namespace norvik::front {
 
-enum class Selection { single, multiple };
+/// How many items can be selected at once; `ticks` is a list with check marks, of which one can be.
+enum class Selection { single, multiple, ticks };
 
 /// Items, a selection, and for some lists check marks. Filling is linear: an item costs the same
 /// whatever the list holds. Indexes outside the list change nothing.
@@ -18,7 +19,8 @@ class ListBox : public Control {
  public:
   static constexpr int kNone = -1;
 
-  ListBox(Form& form, std::string_view name, Selection selection = Selection::single);
+  ListBox(Form& form, std::string_view name, Selection selection = Selection::single,
+          ControlKind kind = ControlKind::listBox);
 
   int count() const { return static_cast<int>(items_.size()); }
   const std::vector<std::string>& items() const { return items_; }
@@ -36,6 +38,7 @@ class ListBox : public Control {
   std::uint64_t itemChanges() const { return itemChanges_; }
 
   bool multiple() const { return selection_ == Selection::multiple; }
+  bool hasTicks() const { return selection_ == Selection::ticks; }
   bool selected(int index) const;
   /// Selects an item without a click; a single-selection list keeps one at the most.
   void setSelected(int index, bool selected);
@@ -51,8 +54,14 @@ class ListBox : public Control {
   /// Selects an item as a click does; in a single-selection list the others lose theirs.
   void choose(int index);
 
+  /// Whether Shift is held during the click that is being delivered.
+  bool shiftHeld() const { return shiftHeld_; }
+  void setShiftHeld(bool held) { shiftHeld_ = held; }
+
   bool ticked(int index) const;
   void setTicked(int index, bool ticked);
+  /// The indexes of the ticked items, in list order.
+  std::vector<int> ticks() const;
   Event<int> tickChanged;
 
   /// Whether a mouse press on an item starts a drag; the tool that owns the target says so.
@@ -69,6 +78,7 @@ class ListBox : public Control {
   std::uint64_t itemChanges_ = 0;
   int index_ = kNone;
   bool dragging_ = false;
+  bool shiftHeld_ = false;
 };
 
 }  // namespace norvik::front

@@ -39,6 +39,11 @@ Opening::Opening()
     control->setVisible(stays);
   }
   ImageSplash.show();
+  // What nothing in the workbench fills or shows is always within reach of a script.
+  for (Control* control : {static_cast<Control*>(&FileChooser), static_cast<Control*>(&FileLabel),
+                           static_cast<Control*>(&NameLabel)}) {
+    control->show();
+  }
   MenuCR2Tools.setEnabled(false);
   setTips(*this);
   setColours(*this);

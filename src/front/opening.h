@@ -4,6 +4,7 @@
 
 #include "front/choice_controls.h"
 #include "front/common_dialog.h"
+#include "front/file_lists.h"
 #include "front/form.h"
 #include "front/list_box.h"
 #include "front/opening_menus.h"
@@ -36,6 +37,7 @@ class Opening : public Form, public OpeningMenus {
   bool SkipOpenDialog = false;   ///< the next open takes OpenedPath
   bool OpenCancelled = false;    ///< the operator refused a repair of line endings
   bool PendingTempSave = false;  ///< the next Save As stores a tool's result, "\CR2.tmp"
+  int Mode = 0;                  ///< 69 arms the extraction of the body part transfer
   float ScreenScaleX = 0;        ///< screen to form; 0 until the form was sized to the screen
   float ScreenScaleY = 0;
   int MruCount = 0;  ///< additions to ListMRU, see AddMenuElement
@@ -178,6 +180,16 @@ class Opening : public Form, public OpeningMenus {
   Label LabelObjPathCR2Install{*this, "LabelObjPathCR2Install"};
   Label LabelRtDir{*this, "LabelRtDir"};
   Label LabelEMC{*this, "LabelEMC"};
+
+  // The body part transfer's own.
+
+  FileList FileChooser{*this, "FileChooser"};
+  /// The picked file's name.
+  Label FileLabel{*this, "FileLabel"};
+  /// The new part's name.
+  Label NameLabel{*this, "NameLabel"};
+  TextBox NameBox{*this, "NameBox"};
+  ListBox ChainList{*this, "ChainList"};
 
   /// Hides ListAllTexMaps.
   Timer TimerListAllTexMaps{*this, "TimerListAllTexMaps", 5000};

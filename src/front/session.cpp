@@ -20,8 +20,8 @@ Form* Session::findForm(std::string_view name) const {
   return found == forms_.end() ? nullptr : *found;
 }
 
-void Session::load(Form& form) {
-  if (form.loaded()) return;
+/// Brings a form to where it can be shown.
+void Session::prepare(Form& form) {
   form.setLoaded(true);
   try {
     form.loading.raise();
@@ -29,8 +29,19 @@ void Session::load(Form& form) {
     form.setLoaded(false);
     throw;
   }
+}
+
+void Session::load(Form& form) {
+  if (form.loaded()) return;
+  prepare(form);
   front.show(form);
-  form.activated.raise();
+  form.shown.raise();
+}
+
+void Session::loadModal(Form& form) {
+  if (form.loaded()) return;
+  prepare(form);
+  front.showModal(form, [this, &form] { deliver([&form] { form.shown.raise(); }); });
 }
 
 void Session::unload(Form& form) {
@@ -49,7 +60,7 @@ void Session::hourglass(bool on) {
 void Session::deliver(const std::function<void()>& handler) {
   const auto stopped = [this](const text::FileError& error) {
     hourglass(false);
-    front.runtimeError(error);
+    front.runtimeError({error.number(), disk.inFull(error.path()), error.act()});
   };
   try {
     handler();

@@ -7,6 +7,7 @@
 #include "text/disk.h"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -51,8 +52,12 @@ class Session {
   const std::vector<Form*>& forms() const { return forms_; }
   Form* findForm(std::string_view name) const;
 
-  /// Shows a form that is not loaded yet. One whose loading fails is not shown, and not loaded.
+  /// Shows a form that is not loaded yet. An error of its loading leaves it unloaded; one of what
+  /// follows its showing leaves it on view.
   void load(Form& form);
+  /// The same; returns when the form was unloaded. An error of what follows its showing is told
+  /// while the form stands.
+  void loadModal(Form& form);
   /// Unloads a form as its close box does. The main form's unloading ends the process.
   void unload(Form& form);
 
@@ -66,7 +71,12 @@ class Session {
   /// Throws FileError for a missing file.
   void offerToClearReadOnly(std::string_view path);
 
+  /// Public routines that no control reaches, by name.
+  std::map<std::string, std::function<void()>, std::less<>> callable;
+
  private:
+  void prepare(Form& form);
+
   friend class ResultOffer;
   std::vector<Form*> forms_;
   Result offered_;

@@ -43,6 +43,7 @@ Commands::Commands(workbench::Workbench& workbench, ScriptFrontEnd& front, Trans
   addMouse();
   addLists();
   addInput();
+  addInner();
   addDisk();
   addOutput();
 }
@@ -214,9 +215,9 @@ void Commands::addMouse() {
   });
   add("drop-file", kAny, [this](ScriptLine& line) {
     front::Control& onto = reach(line.lastWord());
-    const std::string path = line.rest();
-    if (path.empty()) throw Refused{"no file"};
-    acts_.dropFile(path, onto);
+    const std::vector<std::string> paths = text::parts(line.rest(), '|');
+    if (paths.empty()) throw Refused{"no file"};
+    acts_.dropFiles(paths, onto);
   });
 }
 
@@ -230,6 +231,10 @@ void Commands::addLists() {
     acts_.select(list, indexes);
   });
   add("item", kAny, [this](ScriptLine& line) { selectItem(line); });
+  add("shift-item", kAny, [this](ScriptLine& line) {
+    auto& list = reachAs<front::ListBox>(line.word(), "list box");
+    acts_.selectWithShift(list, itemIndex(list, line.rest()));
+  });
   add("double-click-item", kAny, [this](ScriptLine& line) { acts_.doubleClick(selectItem(line)); });
   add("tick", 3, [this](ScriptLine& line) {
     auto& list = reachAs<front::ListBox>(line.word(), "list box");
@@ -239,10 +244,7 @@ void Commands::addLists() {
 }
 
 void Commands::addInput() {
-  add("type", kAny, [this](ScriptLine& line) {
-    auto& box = reachAs<front::TextBox>(line.word(), "text control");
-    acts_.type(box, line.rest());
-  });
+  add("type", kAny, [this](ScriptLine& line) { type(line); });
   add("key", 2, [this](ScriptLine& line) {
     const std::string name = line.word();
     const std::string key = line.word();
@@ -264,6 +266,38 @@ void Commands::addInput() {
     const int position = within(wholeNumber(line.word()), 0, size);
     const int length = line.hasMore() ? within(wholeNumber(line.word()), 0, size - position) : 0;
     acts_.placeCaret(box, static_cast<std::size_t>(position), static_cast<std::size_t>(length));
+  });
+}
+
+void Commands::type(ScriptLine& line) {
+  front::Control& control = reach(line.word());
+  const std::string text = line.rest();
+  if (auto* folders = dynamic_cast<front::FolderList*>(&control); folders != nullptr) {
+    if (!acts_.walk(*folders, text)) throw Refused{"no folder '" + text + "'"};
+  } else if (auto* drives = dynamic_cast<front::DriveList*>(&control); drives != nullptr) {
+    if (!acts_.pick(*drives, text)) throw Refused{"no drive '" + text + "'"};
+  } else if (auto* box = dynamic_cast<front::TextBox*>(&control); box != nullptr) {
+    acts_.type(*box, text);
+  } else {
+    throw Refused{control.name() + " is no text control"};
+  }
+}
+
+/// What a script says to the program itself, past its controls.
+void Commands::addInner() {
+  add("mode", 1, [this](ScriptLine& line) { session_.opening.Mode = wholeNumber(line.word()); });
+  add("call", 1, [this](ScriptLine& line) {
+    const std::string name = line.word();
+    const auto routine = session_.callable.find(name);
+    if (routine == session_.callable.end()) throw Refused{"no routine '" + name + "'"};
+    session_.deliver(routine->second);
+  });
+  add("put", kAny, [this](ScriptLine& line) {
+    front::Control& control = find(line.word());
+    const std::string property = line.word();
+    if (!putProperty(control, property, line.rest())) {
+      throw Refused{control.name() + " has no property '" + property + "'"};
+    }
   });
 }
 
@@ -291,7 +325,12 @@ void Commands::addDisk() {
 
 void Commands::addOutput() {
   add("show", 1, [this](ScriptLine& line) {
-    const front::Control& control = find(line.word());
+    const std::string name = line.word();
+    if (const front::Form* form = session_.findForm(name); form != nullptr) {
+      transcript_.print(showEvent(*form));
+      return;
+    }
+    const front::Control& control = find(name);
     transcript_.print(showEvent(control, nameOf(session_, control)));
   });
   add("show-form", 1, [this](ScriptLine& line) {

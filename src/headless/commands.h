@@ -34,6 +34,7 @@ class Commands {
   void addMouse();
   void addLists();
   void addInput();
+  void addInner();
   void addDisk();
   void addOutput();
 
@@ -49,6 +50,7 @@ class Commands {
   int itemIndex(front::ListBox& list, const std::string& text);
   front::ListBox& selectItem(ScriptLine& line);
   void fail(const ScriptLine& line, const std::string& why);
+  void type(ScriptLine& line);
   void checkProperty(ScriptLine& line);
   void savePicture(ScriptLine& line);
 

@@ -1,10 +1,13 @@
 #include "headless/control_state.h"
 
 #include "front/choice_controls.h"
+#include "front/file_lists.h"
 #include "front/list_box.h"
 #include "front/picture_box.h"
+#include "front/rich_text.h"
 #include "front/timer.h"
 #include "graphics/crc32.h"
+#include "text/columns.h"
 
 namespace norvik::headless {
 
@@ -35,6 +38,16 @@ class PropertyList {
     digits.reserve(values.size());
     for (const int value : values) digits.push_back(std::to_string(value));
     list(name, digits, [](std::string_view text) { return std::string{text}; });
+  }
+  void colours(std::string_view name, const front::RichTextBox& page) {
+    std::vector<std::string> triples;
+    for (std::size_t line = 0; line < page.lineCount(); ++line) {
+      const front::Colour colour = page.lineColour(line);
+      triples.push_back("[" + std::to_string(graphics::redOf(colour)) + "," +
+                        std::to_string(graphics::greenOf(colour)) + "," +
+                        std::to_string(graphics::blueOf(colour)) + "]");
+    }
+    list(name, triples, [](std::string_view text) { return std::string{text}; });
   }
   std::vector<Property> take() { return std::move(properties_); }
 
@@ -79,13 +92,31 @@ std::vector<Property> propertiesOf(const front::Control& control) {
   addCommon(list, control);
   if (const auto* box = dynamic_cast<const front::ListBox*>(&control)) {
     list.texts("items", box->items());
-    list.wholes("selected", box->selection());
+    list.wholes("selected", box->hasTicks() ? box->ticks() : box->selection());
+  }
+  if (const auto* files = dynamic_cast<const front::FileList*>(&control)) {
+    list.text("path", files->path());
+    list.text("pattern", files->pattern());
+  }
+  if (const auto* folders = dynamic_cast<const front::FolderList*>(&control)) {
+    list.text("path", folders->path());
+  }
+  if (const auto* drives = dynamic_cast<const front::DriveList*>(&control)) {
+    list.text("path", drives->path());
   }
   if (const auto* captioned = dynamic_cast<const front::CaptionControl*>(&control)) {
     list.text("caption", captioned->caption());
   }
   if (const auto* text = dynamic_cast<const front::TextBox*>(&control)) {
     list.text("text", text->text());
+    list.whole("start", static_cast<long long>(text->caret()));
+    list.whole("length", static_cast<long long>(text->selectionLength()));
+  }
+  if (const auto* combo = dynamic_cast<const front::ComboBox*>(&control)) {
+    list.texts("items", combo->items());
+  }
+  if (const auto* page = dynamic_cast<const front::RichTextBox*>(&control)) {
+    list.colours("colours", *page);
   }
   if (const auto* option = dynamic_cast<const front::OptionButton*>(&control)) {
     list.boolean("value", option->value());
@@ -112,6 +143,35 @@ JsonObject showEvent(const front::Control& control, std::string_view name) {
   JsonObject event("show");
   event.text("control", name).text("kind", front::kindName(control.kind()));
   for (const Property& property : propertiesOf(control)) event.raw(property.name, property.json);
+  return event;
+}
+
+bool putProperty(front::Control& control, std::string_view name, const std::string& value) {
+  if (auto* captioned = dynamic_cast<front::CaptionControl*>(&control);
+      captioned && name == "caption") {
+    captioned->setCaption(value);
+  } else if (auto* box = dynamic_cast<front::TextBox*>(&control); box && name == "text") {
+    box->setText(value);
+  } else if (auto* list = dynamic_cast<front::ListBox*>(&control); list && name == "items") {
+    list->clear();
+    for (const std::string& item : text::parts(value, '|')) list->add(item);
+  } else if (auto* files = dynamic_cast<front::FileList*>(&control); files && name == "path") {
+    files->setPath(value);
+  } else if (auto* folders = dynamic_cast<front::FolderList*>(&control);
+             folders && name == "path") {
+    folders->setPath(value);
+  } else if (auto* drives = dynamic_cast<front::DriveList*>(&control); drives && name == "path") {
+    drives->setPath(value);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+JsonObject showEvent(const front::Form& form) {
+  JsonObject event("show");
+  event.text("control", form.name()).text("kind", "form");
+  event.boolean("visible", form.loaded()).text("caption", form.caption());
   return event;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // The state of a control, as the runner shows it and compares it.
 
-#include "front/control.h"
+#include "front/form.h"
 #include "headless/json.h"
 
 #include <string>
@@ -21,7 +21,14 @@ struct Property {
 /// The properties that a control of its kind has, in the order in which they are shown.
 std::vector<Property> propertiesOf(const front::Control& control);
 
+/// Sets a property as it stands, without an event: "caption", "text", "path", or the "items" of a
+/// list box, divided by "|". False if the control has no such property.
+bool putProperty(front::Control& control, std::string_view name, const std::string& value);
+
 /// The event that shows a control; `name` is how the script calls it.
 JsonObject showEvent(const front::Control& control, std::string_view name);
+
+/// The event that shows a form itself, loaded or not.
+JsonObject showEvent(const front::Form& form);
 
 }  // namespace norvik::headless

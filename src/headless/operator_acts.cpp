@@ -22,7 +22,7 @@ void OperatorActs::choose(front::MenuEntry& entry) {
 
 void OperatorActs::click(front::Control& control) {
   if (auto* entry = dynamic_cast<front::MenuEntry*>(&control)) return choose(*entry);
-  deliver(control.pressed, Mouse{});
+  if (dynamic_cast<front::ListBox*>(&control) == nullptr) deliver(control.pressed, Mouse{});
   deliver(control.released, Mouse{});
   if (auto* option = dynamic_cast<front::OptionButton*>(&control)) option->setValue(true);
   if (auto* check = dynamic_cast<front::CheckBox*>(&control)) check->setValue(!check->value());
@@ -48,6 +48,12 @@ void OperatorActs::select(front::ListBox& list, const std::vector<int>& indexes)
   if (!indexes.empty()) deliver(list.clicked);
 }
 
+void OperatorActs::selectWithShift(front::ListBox& list, int index) {
+  list.setShiftHeld(true);
+  select(list, {index});
+  list.setShiftHeld(false);
+}
+
 void OperatorActs::tick(front::ListBox& list, int index, bool on) {
   list.setTicked(index, on);
   deliver(list.tickChanged, index);
@@ -59,14 +65,27 @@ void OperatorActs::drop(front::Control& from, front::Control& onto) {
   if (list != nullptr && list->dragging()) deliver(onto.dropped, from);
 }
 
-void OperatorActs::dropFile(const std::string& path, front::Control& onto) {
-  deliver(onto.fileDropped, path);
+void OperatorActs::dropFiles(const std::vector<std::string>& paths, front::Control& onto) {
+  deliver(onto.filesDropped, paths);
 }
 
 void OperatorActs::type(front::TextBox& box, const std::string& text) {
   box.setText(text);
-  box.setCaret(text.size(), 0);
+  box.setCaret(0, 0);
   deliver(box.changed);
+}
+
+bool OperatorActs::walk(front::FolderList& folders, const std::string& path) {
+  if (!front::walkTo(session_.disk, folders, path)) return false;
+  deliver(folders.changed);
+  return true;
+}
+
+bool OperatorActs::pick(front::DriveList& drives, const std::string& drive) {
+  if (!front::pickDrive(session_.disk, drives, drive)) return false;
+  deliver(drives.changed);
+  if (drives.folders() != nullptr) deliver(drives.folders()->changed);
+  return true;
 }
 
 void OperatorActs::key(front::Control& control, const std::string& key) {

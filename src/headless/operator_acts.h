@@ -1,6 +1,7 @@
 #pragma once
 // What an operator does at a control, as the events that the control delivers.
 
+#include "front/file_lists.h"
 #include "front/session.h"
 
 #include <string>
@@ -13,7 +14,8 @@ class OperatorActs {
  public:
   explicit OperatorActs(front::Session& session) : session_(session) {}
 
-  /// A left click. A menu entry is chosen: the menus above it open first, from the top.
+  /// A left click. A menu entry is chosen: the menus above it open first, from the top. A list gets
+  /// no mouse down, which would begin a drag.
   void click(front::Control& control);
   void rightClick(front::Control& control);
   /// On the form itself.
@@ -23,14 +25,20 @@ class OperatorActs {
   /// Selects the items at these indexes, which must exist, and delivers the click of the last one;
   /// without an index only the selection is cleared.
   void select(front::ListBox& list, const std::vector<int>& indexes);
+  /// The same with one item, Shift held.
+  void selectWithShift(front::ListBox& list, int index);
   void tick(front::ListBox& list, int index, bool on);
 
   /// Presses the mouse on a control and lets go over another. A drop arrives if the press started a
-  /// drag.
+  /// drag; what is dragged is the selection as it stands.
   void drop(front::Control& from, front::Control& onto);
-  void dropFile(const std::string& path, front::Control& onto);
+  void dropFiles(const std::vector<std::string>& paths, front::Control& onto);
 
+  /// Replaces the text as a paste by mouse does; the caret stands at the start afterwards.
   void type(front::TextBox& box, const std::string& text);
+  /// Walks to a folder, or picks a drive; false, and nothing done, if it is not there.
+  bool walk(front::FolderList& folders, const std::string& path);
+  bool pick(front::DriveList& drives, const std::string& drive);
   void key(front::Control& control, const std::string& key);
   void key(front::Form& form, const std::string& key);
   void setSlider(front::Slider& slider, int value);

@@ -125,10 +125,11 @@ void ScriptFrontEnd::show(front::Form& form) {
   printForm(form, "shown");
 }
 
-void ScriptFrontEnd::showModal(front::Form& form) {
+void ScriptFrontEnd::showModal(front::Form& form, const std::function<void()>& shown) {
   form.setLoaded(true);
   printForm(form, "modal");
   modals_.push_back(&form);
+  shown();
   while (form.loaded() && !ended_ && step_ && step_()) {
   }
   if (form.loaded() && unload_) unload_(form);
@@ -172,9 +173,10 @@ std::string ScriptFrontEnd::now() const {
 }
 
 void ScriptFrontEnd::runtimeError(const text::FileError& error) {
-  transcript_.print(JsonObject("runtime-error")
-                        .number("number", static_cast<int>(error.number()))
-                        .text("text", error.text()));
+  JsonObject event("runtime-error");
+  event.number("number", static_cast<int>(error.number())).text("text", error.text());
+  if (!error.path().empty()) event.text("path", error.path());
+  transcript_.print(event);
 }
 
 void ScriptFrontEnd::endProcess() {

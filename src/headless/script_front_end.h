@@ -60,7 +60,7 @@ class ScriptFrontEnd : public front::FrontEnd {
   }
   bool nextFrame() override;
   void show(front::Form& form) override;
-  void showModal(front::Form& form) override;
+  void showModal(front::Form& form, const std::function<void()>& shown) override;
   void unloaded(front::Form& form) override;
   front::Screen screen() const override;
   bool drawTile(front::Form&, int, int) override { return false; }

@@ -8,7 +8,7 @@
 namespace norvik::text {
 
 ByteReader::ByteReader(const Disk& disk, std::string_view path)
-    : file_(disk.openForReading(path)), buffer_(kBlockSize) {}
+    : path_(disk.inFull(path)), file_(disk.openForReading(path)), buffer_(kBlockSize) {}
 
 void ByteReader::provide(std::size_t count) {
   if (end_ - begin_ >= count) return;
@@ -18,7 +18,8 @@ void ByteReader::provide(std::size_t count) {
   buffer_.resize(std::max(buffer_.size(), count));
   std::size_t got = 1;
   while (end_ < count && got > 0) {
-    raise(file_->read(buffer_.data() + end_, buffer_.size() - end_, got));
+    const int error = file_->read(buffer_.data() + end_, buffer_.size() - end_, got);
+    raise(error, path_, FileAct::reading);
     end_ += got;
   }
 }

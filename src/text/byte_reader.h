@@ -28,6 +28,7 @@ class ByteReader {
   void provide(std::size_t count);
   std::string_view take(std::size_t count);
 
+  std::string path_;
   std::unique_ptr<HostFile> file_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;

@@ -32,4 +32,8 @@ void raise(int hostError) {
   if (hostError != 0) throw FileError(classicNumber(hostError));
 }
 
+void raise(int hostError, std::string_view path, FileAct act) {
+  if (hostError != 0) throw FileError(classicNumber(hostError), path, act);
+}
+
 }  // namespace norvik::text

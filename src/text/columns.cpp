@@ -81,6 +81,18 @@ std::string_view extension(std::string_view path) {
   return rightmost(path, 3);
 }
 
+std::vector<std::string> parts(std::string_view text, char divider) {
+  std::vector<std::string> found;
+  while (!text.empty()) {
+    const std::size_t end = text.find(divider);
+    found.emplace_back(text.substr(0, end));
+    if (end == std::string_view::npos) break;
+    text.remove_prefix(end + 1);
+    if (text.empty()) found.emplace_back();
+  }
+  return found;
+}
+
 std::string replaced(std::string_view text, char wanted, char replacement) {
   std::string result{text};
   std::replace(result.begin(), result.end(), wanted, replacement);

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik::text {
 
@@ -48,6 +49,9 @@ bool equalIgnoringCase(std::string_view left, std::string_view right);
 
 /// A file's type: the rightmost three characters of its path, as they stand.
 std::string_view extension(std::string_view path);
+
+/// What stands between the `divider`s, empty parts too; nothing of an empty text.
+std::vector<std::string> parts(std::string_view text, char divider);
 
 /// The text with every `wanted` replaced by `replacement`.
 std::string replaced(std::string_view text, char wanted, char replacement);

@@ -44,8 +44,8 @@ void addParts(std::string_view path, std::vector<std::string>& parts) {
   }
 }
 
-[[noreturn]] void raiseMissing(bool folderExists) {
-  throw FileError(folderExists ? ErrorNumber::fileNotFound : ErrorNumber::pathNotFound);
+[[noreturn]] void raiseMissing(std::string_view path, bool folderExists) {
+  throw FileError(folderExists ? ErrorNumber::fileNotFound : ErrorNumber::pathNotFound, path);
 }
 
 }  // namespace
@@ -89,7 +89,7 @@ Disk::Path Disk::parse(std::string_view path) const {
 }
 
 Disk::Place Disk::locate(std::string_view path) const {
-  return locate(parse(path));
+  return blaming(path, FileAct::unknown, [&] { return locate(parse(path)); });
 }
 
 Disk::Place Disk::locate(const Path& path) const {
@@ -124,30 +124,34 @@ Disk::Place Disk::locate(const Path& path) const {
 
 Disk::Place Disk::locateExisting(std::string_view path) const {
   Place place = locate(path);
-  if (!place.exists()) raiseMissing(place.inFolder);
+  if (!place.exists()) raiseMissing(path, place.inFolder);
   return place;
 }
 
 Disk::Place Disk::locateFile(std::string_view path) const {
   Place place = locateExisting(path);
-  if (place.status.kind != HostStatus::Kind::file) throw FileError(ErrorNumber::pathFileAccess);
+  if (place.status.kind != HostStatus::Kind::file) {
+    throw FileError(ErrorNumber::pathFileAccess, path);
+  }
   return place;
 }
 
 Disk::Place Disk::locateWritable(std::string_view path) const {
   Place place = locate(path);
-  if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound);
+  if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound, path);
   const bool refused = place.exists() && (place.status.kind != HostStatus::Kind::file ||
                                           (place.status.mode & kOwnerMayWrite) == 0);
-  if (refused) throw FileError(ErrorNumber::pathFileAccess);
+  if (refused) throw FileError(ErrorNumber::pathFileAccess, path);
   return place;
 }
 
 void Disk::changeFolder(std::string_view path) {
-  const Path parsed = parse(path);
-  if (locate(parsed).status.kind != HostStatus::Kind::folder) {
-    throw FileError(ErrorNumber::pathNotFound);
-  }
+  const Path parsed = blaming(path, FileAct::changingFolder, [&] {
+    Path folder = parse(path);
+    const bool stands = locate(folder).status.kind == HostStatus::Kind::folder;
+    if (!stands) throw FileError(ErrorNumber::pathNotFound);
+    return folder;
+  });
   const char drive = path.size() > 1 && path[1] == ':' ? path[0] : currentFolder_[0];
   currentFolder_ = std::string{drive} + ":";
   for (const std::string& part : parsed.parts) currentFolder_ += "\\" + part;
@@ -171,7 +175,7 @@ bool Disk::folderExists(std::string_view path) const {
 }
 
 std::uint64_t Disk::size(std::string_view path) const {
-  return locateFile(path).status.size;
+  return blaming(path, FileAct::lookingFor, [&] { return locateFile(path).status.size; });
 }
 
 bool Disk::areOneFile(const Place& one, const Place& other) const {
@@ -188,29 +192,35 @@ bool Disk::isSameFile(std::string_view left, std::string_view right) const {
 }
 
 bool Disk::isReadOnly(std::string_view path) const {
-  return (locateExisting(path).status.mode & kOwnerMayWrite) == 0;
+  return blaming(path, FileAct::lookingFor,
+                 [&] { return (locateExisting(path).status.mode & kOwnerMayWrite) == 0; });
 }
 
 void Disk::setReadOnly(std::string_view path, bool readOnly) {
-  const Place place = locateExisting(path);
-  const unsigned mode = place.status.mode;
-  raise(host_.setMode(place.name, readOnly ? mode & ~kAnyMayWrite : mode | kOwnerMayWrite));
+  blaming(path, FileAct::changingAttribute, [&] {
+    const Place place = locateExisting(path);
+    const unsigned mode = place.status.mode;
+    raise(host_.setMode(place.name, readOnly ? mode & ~kAnyMayWrite : mode | kOwnerMayWrite));
+  });
 }
 
 std::string Disk::nameOnDisk(std::string_view path) const {
-  const Place place = locate(path);
+  const Place place = blaming(path, FileAct::lookingFor, [&] { return locate(path); });
   return place.exists() ? place.name.substr(place.name.find_last_of('/') + 1) : std::string{};
 }
 
 std::vector<std::string> Disk::matching(std::string_view pattern) const {
-  Path path = parse(pattern);
-  if (path.parts.empty()) return {};
-  const std::string wanted = path.parts.back();
-  path.parts.pop_back();
-  const Place folder = locate(path);
+  std::string wanted;
+  Place folder;
   std::vector<std::string> names;
-  if (folder.status.kind != HostStatus::Kind::folder) return names;
-  raise(host_.list(folder.name, names));
+  blaming(pattern, FileAct::lookingFor, [&] {
+    Path path = parse(pattern);
+    if (path.parts.empty()) return;
+    wanted = path.parts.back();
+    path.parts.pop_back();
+    folder = locate(path);
+    if (folder.status.kind == HostStatus::Kind::folder) raise(host_.list(folder.name, names));
+  });
   std::erase_if(names, [&](const std::string& name) {
     HostStatus status;
     return !matchesWildcards(name, wanted) ||
@@ -222,29 +232,35 @@ std::vector<std::string> Disk::matching(std::string_view pattern) const {
 }
 
 void Disk::makeFolder(std::string_view path) {
-  const Place place = locate(path);
-  if (place.exists()) throw FileError(ErrorNumber::pathFileAccess);
-  if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound);
-  raise(host_.makeFolder(place.name));
+  blaming(path, FileAct::makingFolder, [&] {
+    const Place place = locate(path);
+    if (place.exists()) throw FileError(ErrorNumber::pathFileAccess);
+    if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound);
+    raise(host_.makeFolder(place.name));
+  });
 }
 
 void Disk::makeFolders(std::string_view path) {
-  const Path whole = parse(path);
-  Path part{whole.drive, {}};
-  for (const std::string& name : whole.parts) {
-    part.parts.push_back(name);
-    const Place place = locate(part);
-    if (!place.exists()) raise(host_.makeFolder(place.name));
-  }
-  if (locate(whole).status.kind != HostStatus::Kind::folder) {
-    throw FileError(ErrorNumber::pathFileAccess);
-  }
+  blaming(path, FileAct::makingFolder, [&] {
+    const Path whole = parse(path);
+    Path part{whole.drive, {}};
+    for (const std::string& name : whole.parts) {
+      part.parts.push_back(name);
+      const Place place = locate(part);
+      if (!place.exists()) raise(host_.makeFolder(place.name));
+    }
+    if (locate(whole).status.kind != HostStatus::Kind::folder) {
+      throw FileError(ErrorNumber::pathFileAccess);
+    }
+  });
 }
 
 void Disk::remove(std::string_view path) {
-  const Place place = locateFile(path);
-  if ((place.status.mode & kOwnerMayWrite) == 0) throw FileError(ErrorNumber::pathFileAccess);
-  raise(host_.remove(place.name));
+  blaming(path, FileAct::deleting, [&] {
+    const Place place = locateFile(path);
+    if ((place.status.mode & kOwnerMayWrite) == 0) throw FileError(ErrorNumber::pathFileAccess);
+    raise(host_.remove(place.name));
+  });
 }
 
 std::unique_ptr<HostFile> Disk::open(const std::string& name, HostOpenMode mode) const {
@@ -253,8 +269,8 @@ std::unique_ptr<HostFile> Disk::open(const std::string& name, HostOpenMode mode)
   return file;
 }
 
-void Disk::syncFile(const std::string& name) const {
-  raise(open(name, HostOpenMode::read)->sync());
+void Disk::syncFile(const std::string& name, std::string_view path) const {
+  blaming(path, FileAct::writing, [&] { raise(open(name, HostOpenMode::read)->sync()); });
 }
 
 void Disk::adoptIdentity(std::string_view file, std::string_view model) {
@@ -266,12 +282,15 @@ void Disk::adoptIdentity(std::string_view file, std::string_view model) {
 }
 
 void Disk::rename(std::string_view from, std::string_view to) {
-  const Place source = locateExisting(from);
-  const Place target = locate(to);
-  if (!target.inFolder) throw FileError(ErrorNumber::pathNotFound);
-  if (target.exists()) throw FileError(ErrorNumber::fileAlreadyExists);
-  if (source.status.kind == HostStatus::Kind::file) syncFile(source.name);
-  moveFile(host_, followLinks(host_, source.name), followLinks(host_, target.name), false);
+  // What the host says of the step itself is about the new name: the old one could be flushed.
+  blaming(to, FileAct::moving, [&] {
+    const Place source = locateExisting(from);
+    const Place target = locate(to);
+    if (!target.inFolder) throw FileError(ErrorNumber::pathNotFound);
+    if (target.exists()) throw FileError(ErrorNumber::fileAlreadyExists);
+    if (source.status.kind == HostStatus::Kind::file) syncFile(source.name, from);
+    moveFile(host_, followLinks(host_, source.name), followLinks(host_, target.name), false);
+  });
 }
 
 /// Gives a file the spelling of a path's last name, from which it differs in case alone.
@@ -285,36 +304,53 @@ void Disk::respell(const std::string& name, std::string_view path) {
 }
 
 void Disk::replace(std::string_view scratch, std::string_view target) {
-  const Place old = locateWritable(target);
-  if (!old.exists()) return rename(scratch, target);
-  const Place made = locateFile(scratch);
-  const std::string name = followLinks(host_, old.name);
-  if (areOneFile(made, old)) return;
-  syncFile(made.name);
-  keepIdentity(host_, made.name, old.status);
-  moveFile(host_, made.name, name, true);
-  // A link keeps its own name and its file's.
-  if (name == old.name) respell(name, target);
+  blaming(target, FileAct::replacing, [&] {
+    const Place old = locateWritable(target);
+    if (!old.exists()) return rename(scratch, target);
+    const Place made = locateFile(scratch);
+    const std::string name = followLinks(host_, old.name);
+    if (areOneFile(made, old)) return;
+    syncFile(made.name, scratch);
+    keepIdentity(host_, made.name, old.status);
+    moveFile(host_, made.name, name, true);
+    // A link keeps its own name and its file's.
+    if (name == old.name) respell(name, target);
+  });
 }
 
 std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {
-  return open(locateFile(path).name, HostOpenMode::read);
+  return blaming(path, FileAct::reading,
+                 [&] { return open(locateFile(path).name, HostOpenMode::read); });
+}
+
+std::unique_ptr<HostFile> Disk::openWritable(std::string_view path, HostOpenMode mode) {
+  return blaming(path, FileAct::writing, [&] { return open(locateWritable(path).name, mode); });
 }
 
 std::unique_ptr<HostFile> Disk::openForWriting(std::string_view path) {
-  return open(locateWritable(path).name, HostOpenMode::write);
+  return openWritable(path, HostOpenMode::write);
 }
 
 std::unique_ptr<HostFile> Disk::openForAppending(std::string_view path) {
-  return open(locateWritable(path).name, HostOpenMode::append);
+  return openWritable(path, HostOpenMode::append);
 }
 
 std::unique_ptr<HostFile> Disk::openForUpdating(std::string_view path) {
-  return open(locateWritable(path).name, HostOpenMode::update);
+  return openWritable(path, HostOpenMode::update);
+}
+
+std::string Disk::inFull(std::string_view path) const {
+  std::string result{path};
+  const bool network = path.size() > 1 && isSeparator(path[0]) && isSeparator(path[1]);
+  if (path.empty() || network || currentFolder_.empty() || path.find(':') != path.npos) {
+    return result;
+  }
+  if (isSeparator(path[0])) return currentFolder_.substr(0, 2) + result;
+  return currentFolder_ + (currentFolder_.ends_with('\\') ? "" : "\\") + result;
 }
 
 std::string Disk::hostPath(std::string_view path) const {
-  return locate(path).name;
+  return blaming(path, FileAct::lookingFor, [&] { return locate(path).name; });
 }
 
 std::optional<std::string> Disk::systemPath(std::string_view hostPath) const {

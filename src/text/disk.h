@@ -72,6 +72,9 @@ class Disk {
   /// Read and written anywhere; made if missing.
   std::unique_ptr<HostFile> openForUpdating(std::string_view path);
 
+  /// A path with its drive and folders: one that has none is completed by the current folder. One
+  /// that no file can have stays as it is. Never fails.
+  std::string inFull(std::string_view path) const;
   /// The host's name for a system path, whether it exists or not.
   std::string hostPath(std::string_view path) const;
   /// The system path of an absolute host path, on the drive whose folder holds it most closely;
@@ -98,7 +101,8 @@ class Disk {
   Place locateWritable(std::string_view path) const;
   bool areOneFile(const Place& one, const Place& other) const;
   std::unique_ptr<HostFile> open(const std::string& name, HostOpenMode mode) const;
-  void syncFile(const std::string& name) const;
+  std::unique_ptr<HostFile> openWritable(std::string_view path, HostOpenMode mode);
+  void syncFile(const std::string& name, std::string_view path) const;
   void respell(const std::string& name, std::string_view path);
 
   HostOps& host_;

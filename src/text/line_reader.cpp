@@ -16,7 +16,9 @@ bool isBlank(char c) {
 }  // namespace
 
 LineReader::LineReader(const Disk& disk, std::string_view path)
-    : LineReader(disk.openForReading(path)) {}
+    : LineReader(disk.openForReading(path)) {
+  path_ = disk.inFull(path);
+}
 
 LineReader::LineReader(std::unique_ptr<HostFile> file)
     : file_(std::move(file)), buffer_(kBlockSize) {}
@@ -35,10 +37,15 @@ bool LineReader::refill() {
   forgetEnds();
   if (end_ == buffer_.size()) buffer_.resize(buffer_.size() * 2);
   std::size_t got = 0;
-  raise(file_->read(buffer_.data() + end_, buffer_.size() - end_, got));
+  const int error = file_->read(buffer_.data() + end_, buffer_.size() - end_, got);
+  raise(error, path_, FileAct::reading);
   end_ += got;
   fileEnded_ = got == 0;
   return got > 0;
+}
+
+void LineReader::raisePastEnd() const {
+  throw FileError(ErrorNumber::inputPastEnd, path_, FileAct::reading);
 }
 
 /// The offset of the next line end among the unread bytes, or their number when the last line has
@@ -63,7 +70,7 @@ void LineReader::passLineEnd() {
 }
 
 std::string_view LineReader::anyLine() {
-  if (atEnd()) throw FileError(ErrorNumber::inputPastEnd);
+  if (atEnd()) raisePastEnd();
   const std::size_t length = findLineEnd();
   // Passing a CR at the buffer's end may move the bytes: have its LF there first.
   if (begin_ + length + 1 >= end_) refill();
@@ -80,7 +87,7 @@ void LineReader::skipBlanks() {
 }
 
 std::string_view LineReader::anyField() {
-  if (atEnd()) throw FileError(ErrorNumber::inputPastEnd);
+  if (atEnd()) raisePastEnd();
   skipBlanks();
   const bool quoted = !atEnd() && buffer_[begin_] == '"';
   if (quoted) ++begin_;

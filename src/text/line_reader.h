@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -93,6 +94,7 @@ class LineReader {
  private:
   std::string_view unread() const { return {buffer_.data() + begin_, end_ - begin_}; }
   bool refill();
+  [[noreturn]] void raisePastEnd() const;
   /// Lets line() look for line ends anew: the next read or the bytes have moved.
   void forgetEnds() {
     ends_ = 0;
@@ -106,6 +108,7 @@ class LineReader {
   void skipBlanks();
   std::string_view wholeLines();
 
+  std::string path_;  ///< empty if the file was handed over open
   std::unique_ptr<HostFile> file_;
   std::vector<char> buffer_;
   std::size_t begin_ = 0;  ///< of the unread bytes in the buffer

@@ -3,6 +3,8 @@
 #include "text/classic_errors.h"
 #include "text/line_scan.h"
 
+#include <utility>
+
 namespace norvik::text {
 
 namespace {
@@ -30,18 +32,21 @@ bool areWrittenAsTheyAre(std::string_view lines) {
 }  // namespace
 
 LineWriter::LineWriter(Disk& disk, std::string_view path, Mode mode)
-    : file_(mode == Mode::create ? disk.openForWriting(path) : disk.openForAppending(path)),
+    : path_(disk.inFull(path)),
+      file_(mode == Mode::create ? disk.openForWriting(path) : disk.openForAppending(path)),
       held_(kBlockSize) {}
 
 LineWriter::~LineWriter() {
   if (file_ != nullptr) ignoringErrors([this] { flush(); });
 }
 
+void LineWriter::write(std::string_view bytes) {
+  raise(file_->write(bytes), path_, FileAct::writing);
+}
+
 void LineWriter::flush() {
-  if (size_ == 0) return;
-  const int error = file_->write({held_.data(), size_});
-  size_ = 0;
-  raise(error);
+  const std::size_t size = std::exchange(size_, 0);
+  if (size > 0) write({held_.data(), size});
 }
 
 /// Whole pages of the file are written, but for its end: the host takes a page up again for each
@@ -57,7 +62,7 @@ void LineWriter::bytes(std::string_view bytes) {
     putFirst((kPage - size_ % kPage) % kPage);
     flush();
     const std::string_view pages = bytes.substr(0, bytes.size() - bytes.size() % kPage);
-    raise(file_->write(pages));
+    write(pages);
     bytes.remove_prefix(pages.size());
   } else if (bytes.size() > free()) {
     putFirst(free());

@@ -5,6 +5,7 @@
 #include "text/disk.h"
 
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -57,6 +58,9 @@ class LineWriter {
     size_ += bytes.size();
   }
 
+  void write(std::string_view bytes);
+
+  std::string path_;
   std::unique_ptr<HostFile> file_;
   std::vector<char> held_;  ///< a block, of which the first `size_` bytes wait to be written
   std::size_t size_ = 0;

@@ -6,7 +6,7 @@
 namespace norvik::text {
 
 RecordFile::RecordFile(Disk& disk, std::string_view path, std::size_t recordLength)
-    : file_(disk.openForUpdating(path)), recordLength_(recordLength) {}
+    : path_(disk.inFull(path)), file_(disk.openForUpdating(path)), recordLength_(recordLength) {}
 
 RecordFile::~RecordFile() {
   if (file_ != nullptr) ignoringErrors([this] { flush(); });
@@ -17,7 +17,7 @@ void RecordFile::flush() {
   int error = file_->seek(offsetOf(heldFrom_));
   if (error == 0) error = file_->write(held_);
   held_.clear();
-  raise(error);
+  raise(error, path_, FileAct::writing);
 }
 
 void RecordFile::put(std::uint64_t number, std::string_view text) {
@@ -30,13 +30,17 @@ void RecordFile::put(std::uint64_t number, std::string_view text) {
 
 std::string_view RecordFile::get(std::uint64_t number) {
   flush();
-  if (number == 0) throw FileError(ErrorNumber::inputPastEnd);
+  const auto pastEnd = [this] {
+    return FileError(ErrorNumber::inputPastEnd, path_, FileAct::reading);
+  };
+  if (number == 0) throw pastEnd();
   record_.resize(recordLength_);
-  raise(file_->seek(offsetOf(number)));
+  raise(file_->seek(offsetOf(number)), path_, FileAct::reading);
   for (std::size_t filled = 0; filled < recordLength_;) {
     std::size_t got = 0;
-    raise(file_->read(record_.data() + filled, recordLength_ - filled, got));
-    if (got == 0) throw FileError(ErrorNumber::inputPastEnd);
+    const int error = file_->read(record_.data() + filled, recordLength_ - filled, got);
+    raise(error, path_, FileAct::reading);
+    if (got == 0) throw pastEnd();
     filled += got;
   }
   return record_;
@@ -45,7 +49,7 @@ std::string_view RecordFile::get(std::uint64_t number) {
 std::uint64_t RecordFile::count() {
   flush();
   std::uint64_t bytes = 0;
-  raise(file_->size(bytes));
+  raise(file_->size(bytes), path_, FileAct::reading);
   return bytes / recordLength_;
 }
 

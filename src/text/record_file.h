@@ -36,6 +36,7 @@ class RecordFile {
   std::uint64_t offsetOf(std::uint64_t number) const { return (number - 1) * recordLength_; }
   void flush();
 
+  std::string path_;
   std::unique_ptr<HostFile> file_;
   std::size_t recordLength_;
   std::string held_;  ///< records put one behind the other and not yet written

@@ -13,7 +13,9 @@ std::string_view cleared(Disk& disk, std::string_view figure, std::string_view s
 }  // namespace
 
 void keepApart(const Disk& disk, std::string_view source, std::string_view scratch) {
-  if (disk.isSameFile(source, scratch)) throw FileError(ErrorNumber::fileAlreadyOpen);
+  if (disk.isSameFile(source, scratch)) {
+    throw FileError(ErrorNumber::fileAlreadyOpen, scratch, FileAct::writing);
+  }
 }
 
 RewritePass::RewritePass(Disk& disk, std::string_view figure, std::string_view scratch)

@@ -37,17 +37,34 @@ const std::map<ControlKind, Names>& inventory() {
         "LabelTexPathCR2Install",
         "LabelObjPathCR2Install",
         "LabelRtDir",
-        "LabelEMC"}},
+        "LabelEMC",
+        "FileLabel",
+        "NameLabel"}},
       {ControlKind::listBox,
-       {"ListActors", "ListMaterials", "ListMATColors", "ListMatHiLite", "ListChannels",
-        "ListPropObj", "ListAllTexMaps", "ListHideDialsChannels", "ListMRU", "ListChannelsReorder",
-        "ListChannelsReorderByPart", "ListChannelsReorderNewOrder", "ListChannelsReorderReordered",
-        "ListAltGeomActors", "ListAltGeomNames", "ListboxListCR2Files", "ListOBJExtract",
-        "ListOBJBatch", "ListEMCs"}},
+       {"ListActors",
+        "ListMaterials",
+        "ListMATColors",
+        "ListMatHiLite",
+        "ListChannels",
+        "ListPropObj",
+        "ListAllTexMaps",
+        "ListHideDialsChannels",
+        "ListMRU",
+        "ListChannelsReorder",
+        "ListChannelsReorderByPart",
+        "ListChannelsReorderNewOrder",
+        "ListChannelsReorderReordered",
+        "ListAltGeomActors",
+        "ListAltGeomNames",
+        "ListboxListCR2Files",
+        "ListOBJExtract",
+        "ListOBJBatch",
+        "ListEMCs",
+        "ChainList"}},
       {ControlKind::textBox,
        {"TextMainOBJ", "TextMainTex", "TextMainBump", "TextMainTrans", "TextMainReflect",
-        "TextMorphRename", "TextERCUnique", "TextTrackingSpeed", "TextOBJScale",
-        "TextOpeningNotes"}},
+        "TextMorphRename", "TextERCUnique", "TextTrackingSpeed", "TextOBJScale", "TextOpeningNotes",
+        "NameBox"}},
       {ControlKind::pictureButton, {"PictureMatColor",      "PictureMatHiLite",
                                     "PictureCopyToDest",    "PictureViewChannels",
                                     "PictureJoints",        "PictureTrash",
@@ -70,6 +87,7 @@ const std::map<ControlKind, Names>& inventory() {
       {ControlKind::commandButton, {"CommandDialHideDone"}},
       {ControlKind::shape, {"ShapeChannels", "Shape1", "LineObj"}},
       {ControlKind::image, {"ImageSplash"}},
+      {ControlKind::fileList, {"FileChooser"}},
       {ControlKind::timer, {"TimerListAllTexMaps", "TimerPushpin", "TimerTileClose"}}};
   return names;
 }
@@ -95,7 +113,9 @@ TEST(OpeningInventory, TakesClicksOnTheSourcesPicture) {
 TEST(OpeningInventory, StartsWithTheSplashPictureAlone) {
   const Opening opening;
   for (const Control* control : opening.controls()) {
-    const bool stays = control->kind() == ControlKind::menuEntry || control == &opening.ImageSplash;
+    const bool stays = control->kind() == ControlKind::menuEntry ||
+                       control == &opening.ImageSplash || control == &opening.FileChooser ||
+                       control == &opening.FileLabel || control == &opening.NameLabel;
     EXPECT_EQ(control->visible(), stays) << control->name();
     EXPECT_TRUE(control->enabled() || control == &opening.MenuCR2Tools) << control->name();
   }

@@ -120,11 +120,99 @@ TEST_F(OperatorCommands, AFileOfTheDesktopMayHaveBlanksInItsName) {
             (Lines{"PicturePad gets file C:\\my figures\\a b.cr2"}));
 }
 
+TEST_F(OperatorCommands, SeveralFilesOfTheDesktopAreOneDrop) {
+  int drops = 0;
+  pad.PicturePad.filesDropped.add([&](const std::vector<std::string>&) { ++drops; });
+  EXPECT_EQ(quietly("drop-file C:\\a b.cr2|C:\\c.obj Pad.PicturePad\n"),
+            (Lines{"PicturePad gets file C:\\a b.cr2", "PicturePad gets file C:\\c.obj"}));
+  EXPECT_EQ(drops, 1);
+}
+
+TEST_F(OperatorCommands, AClickOnAListBeginsNoDrag) {
+  EXPECT_EQ(quietly("click Pad.ListPad\n"), (Lines{"ListPad release 0,0", "ListPad click"}));
+}
+
+TEST_F(OperatorCommands, ShiftIsHeldDuringItsClickAlone) {
+  Lines held;
+  pad.ListOne.clicked.add([&] { held.emplace_back(pad.ListOne.shiftHeld() ? "shift" : "plain"); });
+  quietly("shift-item Pad.ListOne two\nitem Pad.ListOne two\n");
+  EXPECT_EQ(held, (Lines{"shift", "plain"}));
+  EXPECT_EQ(pad.ListOne.chosen(), "two");
+}
+
+TEST_F(OperatorCommands, AFolderListGoesToFoldersThatAreThere) {
+  bench.disk.makeFolders("C:\\figures\\old");
+  EXPECT_EQ(quietly("type Pad.FoldersPad C:\\figures\\old\\\n"),
+            (Lines{"walked to C:\\figures\\old"}));
+  EXPECT_EQ(bench.play("type Pad.FoldersPad C:\\nowhere\ntype Pad.FoldersPad\n"),
+            (Lines{R"({"event":"refused","line":1,"why":"no folder 'C:\\nowhere'"})",
+                   R"({"event":"refused","line":2,"why":"no folder ''"})"}));
+  EXPECT_EQ(pad.FoldersPad.path(), "C:\\figures\\old");
+}
+
+TEST_F(OperatorCommands, ADriveTakesItsFolderListToItsRoot) {
+  bench.disk.makeFolders("C:\\figures");
+  quietly("type Pad.FoldersPad C:\\figures\n");
+  EXPECT_EQ(quietly("type Pad.DrivesPad c:\n"), (Lines{"picked C:", "walked to C:\\"}));
+  EXPECT_EQ(bench.play("type Pad.DrivesPad Q:\n"),
+            (Lines{R"({"event":"refused","line":1,"why":"no drive 'Q:'"})"}));
+}
+
+TEST_F(OperatorCommands, PropertiesArePutWithoutAnEvent) {
+  pad.TextPad.hide();
+  quietly("select Pad.ListPad 1\n");
+  EXPECT_EQ(quietly("put Pad.LabelPad caption  two words\nput Pad.TextPad text x\n"
+                    "put Pad.ListPad items a||b c|\nput Pad.FilesPad path C:\\figures\n"
+                    "put Pad.ComboPad text\n"),
+            Lines{});
+  EXPECT_EQ(pad.LabelPad.caption(), " two words");
+  EXPECT_EQ(pad.TextPad.text(), "x");
+  EXPECT_EQ(pad.ListPad.items(), (std::vector<std::string>{"a", "", "b c", ""}));
+  EXPECT_EQ(pad.ListPad.selection(), std::vector<int>{});
+  EXPECT_EQ(pad.ListPad.index(), front::ListBox::kNone);
+  EXPECT_EQ(pad.FilesPad.path(), "C:\\figures");
+  quietly("put Pad.ListPad items\n");
+  EXPECT_EQ(pad.ListPad.count(), 0);
+  EXPECT_EQ(bench.play("put Pad.LabelPad text x\n"),
+            (Lines{R"({"event":"refused","line":1,"why":"LabelPad has no property 'text'"})"}));
+}
+
+TEST_F(OperatorCommands, TheModeIsANumber) {
+  quietly("mode 69\n");
+  EXPECT_EQ(bench.opening().Mode, 69);
+  EXPECT_EQ(bench.play("mode many\n"),
+            (Lines{R"({"event":"refused","line":1,"why":"'many' is no whole number"})"}));
+}
+
+TEST_F(OperatorCommands, ARoutineIsCalledByItsName) {
+  bench.session().callable["Beeper"] = [this] { bench.front.beep(); };
+  EXPECT_EQ(bench.play("call Beeper\ncall Nobody\n"),
+            (Lines{R"({"event":"beep"})",
+                   R"({"event":"refused","line":2,"why":"no routine 'Nobody'"})"}));
+}
+
+TEST_F(OperatorCommands, AFormThatCannotLoadStaysUnloaded) {
+  bench.play("close Pad\n");
+  pad.loading.add([this] { bench.disk.remove("C:\\nobody.txt"); });
+  const Lines events = bench.play("load Pad\n");
+  ASSERT_EQ(events.size(), 1U);
+  EXPECT_EQ(events[0].find(R"({"event":"runtime-error","number":53)"), 0U);
+  EXPECT_FALSE(pad.loaded());
+}
+
+TEST_F(OperatorCommands, WhatAFormSaysStandsBehindItsShowing) {
+  bench.play("close Pad\n");
+  pad.shown.add([this] { bench.front.beep(); });
+  EXPECT_EQ(bench.play("load Pad\n"),
+            (Lines{R"({"event":"form","form":"Pad","state":"shown"})", R"({"event":"beep"})"}));
+}
+
 TEST_F(OperatorCommands, TypingReplacesTheText) {
   pad.TextPad.setText("old");
   EXPECT_EQ(quietly("type Pad.TextPad  two words \ntype Pad.RichPad rich\ntype Pad.ComboPad x\n"
                     "type Pad.TextPad\n"),
             (Lines{"TextPad is  two words ", "RichPad is rich", "ComboPad is x", "TextPad is "}));
+  EXPECT_EQ(pad.RichPad.caret(), 0U) << "as behind a paste by mouse";
 }
 
 TEST_F(OperatorCommands, TheCaretIsPlaced) {
@@ -203,9 +291,11 @@ TEST_F(OperatorCommands, FormsAreShownAndUnloaded) {
 
 TEST_F(OperatorCommands, AnErrorOfTheFileLayerEndsTheHandlerAlone) {
   pad.CommandPad.clicked.add([this] { bench.disk.remove("C:\\nobody.txt"); });
-  EXPECT_EQ(bench.play("click Pad.CommandPad\necho still here\n"),
-            (Lines{R"({"event":"runtime-error","number":53,"text":"File not found"})",
-                   R"({"event":"echo","text":"still here"})"}));
+  EXPECT_EQ(
+      bench.play("click Pad.CommandPad\necho still here\n"),
+      (Lines{
+          R"({"event":"runtime-error","number":53,"text":"File not found","path":"C:\\nobody.txt"})",
+          R"({"event":"echo","text":"still here"})"}));
   EXPECT_EQ(bench.outcome.exitCode(), kDone);
 }
 

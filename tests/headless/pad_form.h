@@ -2,11 +2,13 @@
 // A form with one control of each kind that writes down all that happens at it.
 
 #include "front/choice_controls.h"
+#include "front/file_lists.h"
 #include "front/form.h"
 #include "front/list_box.h"
 #include "front/menu_entry.h"
 #include "front/picture_box.h"
 #include "front/plain_controls.h"
+#include "front/rich_text.h"
 #include "front/timer.h"
 
 #include <string>
@@ -24,7 +26,8 @@ struct PadForm : front::Form {
                       (list->ticked(index) ? " on" : " off"));
       });
     }
-    for (front::TextBox* box : {&TextPad, &RichPad, &ComboPad}) {
+    for (front::TextBox* box : {&TextPad, static_cast<front::TextBox*>(&RichPad),
+                                static_cast<front::TextBox*>(&ComboPad)}) {
       box->changed.add([this, box] { log.push_back(box->name() + " is " + box->text()); });
       box->caretMoved.add([this, box] {
         log.push_back(box->name() + " caret " + std::to_string(box->caret()) + "+" +
@@ -33,6 +36,8 @@ struct PadForm : front::Form {
     }
     SliderPad.changed.add(
         [this] { log.push_back("slid to " + std::to_string(SliderPad.value())); });
+    FoldersPad.changed.add([this] { log.push_back("walked to " + FoldersPad.path()); });
+    DrivesPad.changed.add([this] { log.push_back("picked " + DrivesPad.path()); });
     TimerPad.expired.add([this] { log.push_back("expired"); });
     MenuPad.opened.add([this] { log.push_back("MenuPad opened"); });
     MenuInner.opened.add([this] { log.push_back("MenuInner opened"); });
@@ -47,8 +52,8 @@ struct PadForm : front::Form {
   front::ListBox ListPad{*this, "ListPad", front::Selection::multiple};
   front::ListBox ListOne{*this, "ListOne"};
   front::TextBox TextPad{*this, "TextPad"};
-  front::TextBox RichPad{*this, "RichPad", front::ControlKind::richTextBox};
-  front::TextBox ComboPad{*this, "ComboPad", front::ControlKind::comboBox};
+  front::RichTextBox RichPad{*this, "RichPad"};
+  front::ComboBox ComboPad{*this, "ComboPad"};
   front::Frame FramePad{*this, "FramePad"};
   front::OptionButton OptionA{*this, "OptionA", "A", &FramePad};
   front::OptionButton OptionB{*this, "OptionB", "B", &FramePad};
@@ -58,6 +63,10 @@ struct PadForm : front::Form {
   front::PictureButton PicturePad{*this, "PicturePad"};
   front::PictureBox CanvasPad{*this, "CanvasPad", 4, 3};
   front::CommandButton CommandPad{*this, "CommandPad", "Go"};
+  front::FolderList FoldersPad{*this, "FoldersPad"};
+  front::DriveList DrivesPad{*this, "DrivesPad", &FoldersPad};
+  front::FileList FilesPad{*this, "FilesPad", "*.cr2"};
+  front::ListBox ListTicks{*this, "ListTicks", front::Selection::ticks};
   front::Timer TimerPad{*this, "TimerPad", 250};
   front::MenuEntry MenuPad{*this, "MenuPad", "Menu"};
   front::MenuEntry MenuInner{MenuPad, "MenuInner", "Inner"};
@@ -83,8 +92,9 @@ struct PadForm : front::Form {
     control.doubleClicked.add([this, name] { log.push_back(name + " double"); });
     control.dropped.add(
         [this, name](front::Control& from) { log.push_back(name + " gets " + from.name()); });
-    control.fileDropped.add(
-        [this, name](const std::string& path) { log.push_back(name + " gets file " + path); });
+    control.filesDropped.add([this, name](const std::vector<std::string>& paths) {
+      for (const std::string& path : paths) log.push_back(name + " gets file " + path);
+    });
     control.key.add([this, name](const std::string& pressedKey) {
       log.push_back(name + " key " + pressedKey);
     });

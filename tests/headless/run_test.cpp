@@ -154,8 +154,9 @@ TEST_F(Runs, EachDriveIsAFolder) {
       "setting Startup PLoc C:\\Poser\\\nstart\nchoose D:\\Mesh.OBJ\nclick MenuFileOpen\n"
       "expect LabelOBJFileName caption D:\\Mesh.OBJ\nchoose E:\\mesh.obj\nclick MenuFileOpen\n");
   EXPECT_EQ(result.code, kDone);
-  EXPECT_EQ(result.events.back(),
-            R"({"event":"runtime-error","number":76,"text":"Path not found"})");
+  EXPECT_EQ(
+      result.events.back(),
+      R"({"event":"runtime-error","number":76,"text":"Path not found","path":"E:\\mesh.obj"})");
 }
 
 TEST_F(Runs, DriveZIsTheWholeHostUnlessGivenAnotherFolder) {

@@ -67,11 +67,19 @@ TEST_F(ShowEvent, OfAListHasItemsAndSelection) {
 
 TEST_F(ShowEvent, OfATextBoxHasItsText) {
   pad.TextPad.setText("two\r\nlines");
-  pad.RichPad.setText("rich");
+  pad.RichPad.setText("rich\r\n\ntext\n");
+  pad.RichPad.setCaret(1, 2);
+  pad.RichPad.setLineColours({graphics::colourOf(1, 2, 3)});
   pad.ComboPad.setText("combo");
-  EXPECT_EQ(shown("TextPad"), state("TextPad", "text box", R"(,"text":"two\r\nlines")"));
-  EXPECT_EQ(shown("RichPad"), state("RichPad", "rich text box", R"(,"text":"rich")"));
-  EXPECT_EQ(shown("ComboPad"), state("ComboPad", "combo box", R"(,"text":"combo")"));
+  pad.ComboPad.add("a");
+  pad.ComboPad.add("b");
+  EXPECT_EQ(shown("TextPad"),
+            state("TextPad", "text box", R"(,"text":"two\r\nlines","start":0,"length":0)"));
+  EXPECT_EQ(shown("RichPad"), state("RichPad", "rich text box",
+                                    R"(,"text":"rich\r\n\ntext\n","start":1,"length":2,)"
+                                    R"("colours":[[1,2,3],[0,0,192],[0,0,192]])"));
+  EXPECT_EQ(shown("ComboPad"), state("ComboPad", "combo box",
+                                     R"(,"text":"combo","start":0,"length":0,"items":["a","b"])"));
 }
 
 TEST_F(ShowEvent, OfAChoiceHasItsValue) {
@@ -109,11 +117,38 @@ TEST_F(ShowEvent, OfADrawingSurfaceHasItsSizeAndCheckSum) {
             state("CanvasPad", "drawing surface", R"(,"pixels":[0,3],"crc":0)"));
 }
 
+TEST_F(ShowEvent, OfAFormItselfTellsWhetherItIsLoaded) {
+  EXPECT_EQ(
+      bench.play("show Pad\nclose Pad\nshow Pad\n"),
+      (Lines{R"({"event":"show","control":"Pad","kind":"form","visible":true,"caption":"Pad"})",
+             R"({"event":"form","form":"Pad","state":"unloaded"})",
+             R"({"event":"show","control":"Pad","kind":"form","visible":false,"caption":"Pad"})"}));
+}
+
+TEST_F(ShowEvent, OfAListWithCheckMarksHasTheTickedItems) {
+  for (const char* item : {"one", "two", "three"}) pad.ListTicks.add(item);
+  bench.play("tick Pad.ListTicks 0 on\ntick Pad.ListTicks 2 on\nselect Pad.ListTicks 1\n");
+  EXPECT_EQ(shown("ListTicks"),
+            state("ListTicks", "list box", R"(,"items":["one","two","three"],"selected":[0,2])"));
+}
+
+TEST_F(ShowEvent, OfFileListsHasTheirPaths) {
+  pad.FoldersPad.setPath("C:\\");
+  pad.DrivesPad.setPath("C:");
+  pad.FilesPad.setPath("C:\\figures");
+  EXPECT_EQ(shown("FoldersPad"), state("FoldersPad", "folder list", R"(,"path":"C:\\")"));
+  EXPECT_EQ(shown("DrivesPad"), state("DrivesPad", "drive list", R"(,"path":"C:")"));
+  EXPECT_EQ(shown("FilesPad"),
+            state("FilesPad", "file list",
+                  R"(,"items":[],"selected":[],"path":"C:\\figures","pattern":"*.cr2")"));
+}
+
 TEST_F(ShowEvent, OfAFormComesInTheOrderOfItsDeclaration) {
-  const Lines names{"LabelPad", "ListPad",   "ListOne",    "TextPad",   "RichPad",
-                    "ComboPad", "FramePad",  "OptionA",    "OptionB",   "OptionOutside",
-                    "CheckPad", "SliderPad", "PicturePad", "CanvasPad", "CommandPad",
-                    "TimerPad", "MenuPad",   "MenuInner",  "MenuLeaf"};
+  const Lines names{"LabelPad",   "ListPad",   "ListOne",    "TextPad",   "RichPad",
+                    "ComboPad",   "FramePad",  "OptionA",    "OptionB",   "OptionOutside",
+                    "CheckPad",   "SliderPad", "PicturePad", "CanvasPad", "CommandPad",
+                    "FoldersPad", "DrivesPad", "FilesPad",   "ListTicks", "TimerPad",
+                    "MenuPad",    "MenuInner", "MenuLeaf"};
   const Lines events = bench.play("show-form Pad\n");
   ASSERT_EQ(events.size(), names.size());
   for (std::size_t i = 0; i < names.size(); ++i) {

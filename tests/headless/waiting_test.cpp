@@ -28,7 +28,7 @@ class WaitingHandlers : public ::testing::Test {
     bench.play("load Pad\n");
     pad.log.clear();
     pad.CommandPad.clicked.add([this] {
-      bench.front.showModal(ask);
+      bench.front.showModal(ask, [] {});
       bench.front.messageBox("the handler goes on", "Pad", front::kOk);
     });
     ask.LabelAsk.clicked.add([this] { bench.front.beep(); });
@@ -80,7 +80,7 @@ TEST_F(WaitingHandlers, ModalFormsNest) {
     front::Label LabelInner{*this, "LabelInner"};
   } inner;
   bench.session().addForm(inner);
-  ask.LabelAsk.doubleClicked.add([&] { bench.front.showModal(inner); });
+  ask.LabelAsk.doubleClicked.add([&] { bench.front.showModal(inner, [] {}); });
   EXPECT_EQ(bench.play("click Pad.CommandPad\ndouble-click Ask.LabelAsk\nclick Ask.LabelAsk\n"
                        "close Inner\nclick Ask.LabelAsk\nclose Ask\n"),
             (Lines{kModal, R"({"event":"form","form":"Inner","state":"modal"})",
@@ -91,9 +91,12 @@ TEST_F(WaitingHandlers, ModalFormsNest) {
 
 TEST_F(WaitingHandlers, AnErrorInsideDoesNotEndTheHandlerThatWaits) {
   ask.LabelAsk.doubleClicked.add([this] { bench.disk.remove("C:\\nobody.txt"); });
-  EXPECT_EQ(bench.play("click Pad.CommandPad\ndouble-click Ask.LabelAsk\nclose Ask\n"),
-            (Lines{kModal, R"({"event":"runtime-error","number":53,"text":"File not found"})",
-                   kGone, box("the handler goes on")}));
+  EXPECT_EQ(
+      bench.play("click Pad.CommandPad\ndouble-click Ask.LabelAsk\nclose Ask\n"),
+      (Lines{
+          kModal,
+          R"({"event":"runtime-error","number":53,"text":"File not found","path":"C:\\nobody.txt"})",
+          kGone, box("the handler goes on")}));
 }
 
 TEST_F(WaitingHandlers, TheExitEndsTheRunAlsoInsideAModalForm) {

@@ -70,4 +70,14 @@ std::string droppedFile(const QMimeData& data, const front::Session& session) {
   return session.disk.systemPath(hostBytes(data.urls().constFirst().toLocalFile())).value_or("");
 }
 
+std::vector<std::string> droppedFiles(const QMimeData& data, const front::Session& session) {
+  std::vector<std::string> files;
+  for (const QUrl& url : data.urls()) {
+    if (!url.isLocalFile()) continue;
+    auto file = session.disk.systemPath(hostBytes(url.toLocalFile()));
+    if (file) files.push_back(std::move(*file));
+  }
+  return files;
+}
+
 }  // namespace norvik::desktop

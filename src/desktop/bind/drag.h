@@ -23,5 +23,7 @@ front::Control* draggedControl(const QMimeData& data, const front::Session& sess
 
 /// The system path of the first file that is carried; empty if no drive holds it.
 std::string droppedFile(const QMimeData& data, const front::Session& session);
+/// All of them; those that lie on no drive are left out.
+std::vector<std::string> droppedFiles(const QMimeData& data, const front::Session& session);
 
 }  // namespace norvik::desktop

@@ -177,7 +177,7 @@ bool WidgetBinding::keyPressed(const QKeyEvent& event) {
 bool WidgetBinding::dragOver(QDropEvent& event) const {
   const QMimeData& data = *event.mimeData();
   const bool wanted = carriesControl(data) && control().dropped.hasHandlers();
-  const bool file = carriesFile(data) && control().fileDropped.hasHandlers();
+  const bool file = carriesFile(data) && control().filesDropped.hasHandlers();
   if (!wanted && !file) return false;
   event.acceptProposedAction();
   return true;
@@ -192,9 +192,9 @@ bool WidgetBinding::dropped(const QDropEvent& event) {
     QTimer::singleShot(0, this, [this, source] { raise(control().dropped, *source); });
     return true;
   }
-  const std::string file = droppedFile(data, session);
-  if (file.empty() || !control().fileDropped.hasHandlers()) return false;
-  QTimer::singleShot(0, this, [this, file] { raise(control().fileDropped, file); });
+  const std::vector<std::string> files = droppedFiles(data, session);
+  if (files.empty() || !control().filesDropped.hasHandlers()) return false;
+  QTimer::singleShot(0, this, [this, files] { raise(control().filesDropped, files); });
   return true;
 }
 

@@ -110,6 +110,8 @@ void MainWindow::bindTheRest() {
   auto* column = qobject_cast<QVBoxLayout*>(centralWidget()->layout());
   for (front::Control* control : opening_.controls()) {
     if (control == &opening_.PictureTile || maker_.bindings().bound(*control)) continue;
+    // The body part transfer has no place in the window: its entry does nothing.
+    if (control == &opening_.FileLabel || control == &opening_.NameLabel) continue;
     if (auto* timer = dynamic_cast<front::Timer*>(control); timer != nullptr) {
       maker_.timer(*timer);
     } else if (QWidget* widget = maker_.make(*control, *centralWidget()); widget != nullptr) {
