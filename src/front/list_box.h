@@ -31,6 +31,8 @@ class ListBox : public Control {
   void clear();
   /// Adds an item at the end.
   void add(std::string_view item);
+  /// Gives an item another text; it stays selected if it was.
+  void setItem(int index, std::string_view item);
   /// Takes an item out; those behind it move up with their selection.
   void remove(int index);
   /// Counts the changes of the items, so that a front end that draws them can tell a change of the

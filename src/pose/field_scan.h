@@ -8,8 +8,8 @@
 
 namespace norvik::pose {
 
-/// The next field of a line that the filter accepts; nothing at the end of the file. The filter must
-/// accept lines with a double quote, since a quoted field runs over line ends.
+/// The next field of a line that the filter accepts; nothing at the end of the file. The filter
+/// must accept lines with a double quote, since a quoted field runs over line ends.
 inline std::optional<std::string_view> nextField(text::LineReader& in,
                                                  const text::LineFilter& stops) {
   in.passLines(stops);

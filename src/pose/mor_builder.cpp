@@ -20,14 +20,9 @@ void showValue(FormMOR& form) {
 void takeValue(FormMOR& form) {
   const front::ListBox& morphs = form.ListMorphs;
   if (morphs.index() == front::ListBox::kNone) return;
-  std::vector<std::string> values = form.ListValues.items();
   for (int i = 0; i < morphs.count(); ++i) {
-    if (morphs.item(i) == morphs.chosen()) {
-      values.at(static_cast<std::size_t>(i)) = form.TextValue.text();
-    }
+    if (morphs.item(i) == morphs.chosen()) form.ListValues.setItem(i, form.TextValue.text());
   }
-  form.ListValues.clear();
-  for (const std::string& value : values) form.ListValues.add(value);
 }
 
 void writeValues(const FormMOR& form, text::LineReader& in, text::LineWriter& out) {

@@ -61,8 +61,8 @@ class PartCopy {
     return false;
   }
 
-  /// Writes the line in hand and all up to the next `actor` line, which is then in hand. False where
-  /// the walk ends.
+  /// Writes the line in hand and all up to the next `actor` line, which is then in hand. False
+  /// where the walk ends.
   bool copyBlock() {
     out_.line(line_);
     while (!in_.atEnd()) {
@@ -106,10 +106,10 @@ void writePose(front::Session& session, const FormPZ2& form, const std::string& 
   out.close();
 }
 
-/// An old pose that cannot be deleted is in the way of the new one.
+/// An old pose that cannot be deleted is in the way of the new one, and makes the rename fail.
 void putInPlace(text::Disk& disk, const std::string& scratch, const std::string& target) {
   const bool stays = disk.folderExists(target) || (disk.exists(target) && disk.isReadOnly(target));
-  if (stays) throw text::FileError(text::ErrorNumber::fileAlreadyExists);
+  if (stays) return disk.rename(scratch, target);
   disk.replace(scratch, target);
 }
 

@@ -71,7 +71,7 @@ void wirePz2Editor(front::Session& session, FormPZ2& form) {
   front::Opening& opening = session.opening;
   opening.MenuPoseFile.clicked.add([&session, &form] { open(session, form, false); });
   opening.menuMatFile.clicked.add([&session, &form] { open(session, form, true); });
-  form.activated.add([&session, &form] { LoadIt(session, form); });
+  form.shown.add([&session, &form] { LoadIt(session, form); });
   form.unloading.add([&form] { form.restoreStart(); });
   form.ListActorsPZ2.doubleClicked.add([&form] {
     front::ListBox& parts = form.ListActorsPZ2;

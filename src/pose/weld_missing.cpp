@@ -24,8 +24,7 @@ MissingMorph missingMorph(const FormPZ2Combine& form, int index) {
   const bool morph = form.ListTGVP.item(index) == "TG";
   const auto actor = text::before(form.ListActors2.item(index), ":");
   const std::string keyword{morph ? kTargetGeom : kValueParm};
-  return {"actor " + std::string{actor},
-          "\t\t" + keyword + std::string{form.ListFile2.item(index)},
+  return {"actor " + std::string{actor}, "\t\t" + keyword + std::string{form.ListFile2.item(index)},
           std::string{form.ListKeyLines.item(index)}};
 }
 

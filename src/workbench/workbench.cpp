@@ -26,6 +26,11 @@
 #include "obj/spin.h"
 #include "obj/view.h"
 #include "obj/view_keys.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_colours.h"
+#include "pose/mor_builder.h"
+#include "pose/pz2_editor.h"
+#include "pose/weld.h"
 
 namespace norvik::workbench {
 
@@ -33,6 +38,9 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
                      std::string programFolder, std::string commandLine)
     : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
   session_.addForm(formObj_);
+  session_.addForm(formPZ2_);
+  session_.addForm(formMOR_);
+  session_.addForm(formPZ2Combine_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -51,6 +59,11 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  pose::wirePz2Editor(session_, formPZ2_);
+  pose::wireMatColours(session_, formPZ2_);
+  pose::wireDonePZ2(session_, formPZ2_);
+  pose::wireMorBuilder(session_, formMOR_);
+  pose::wireWelder(session_, formPZ2Combine_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

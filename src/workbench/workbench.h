@@ -4,6 +4,9 @@
 #include "front/form_obj.h"
 #include "front/session.h"
 #include "obj/workshop.h"
+#include "pose/form_mor.h"
+#include "pose/form_pz2.h"
+#include "pose/form_pz2_combine.h"
 
 #include <string>
 
@@ -28,6 +31,9 @@ class Workbench {
 
   front::Opening opening_;
   front::FormOBJ formObj_;
+  pose::FormPZ2 formPZ2_;
+  pose::FormMOR formMOR_;
+  pose::FormPZ2Combine formPZ2Combine_;
   front::Session session_;
   obj::Workshop workshop_;
 };
