@@ -54,6 +54,11 @@
 #include "obj/spin.h"
 #include "obj/view.h"
 #include "obj/view_keys.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_colours.h"
+#include "pose/mor_builder.h"
+#include "pose/pz2_editor.h"
+#include "pose/weld.h"
 #include "text/history.h"
 
 namespace norvik::workbench {
@@ -68,6 +73,9 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formPhi_);
   session_.addForm(formTree_);
   session_.addForm(formMatCoord_);
+  session_.addForm(formPZ2_);
+  session_.addForm(formMOR_);
+  session_.addForm(formPZ2Combine_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -123,6 +131,11 @@ void Workbench::wireTools() {
   builders::wireMtlCreator(session_);
   materials::wireMaterialColours(session_);
   materials::wireMaterialCoordinator(session_, formMatCoord_);
+  pose::wirePz2Editor(session_, formPZ2_);
+  pose::wireMatColours(session_, formPZ2_);
+  pose::wireDonePZ2(session_, formPZ2_);
+  pose::wireMorBuilder(session_, formMOR_);
+  pose::wireWelder(session_, formPZ2Combine_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

@@ -10,6 +10,9 @@
 #include "front/session.h"
 #include "materials/form_mat_coord.h"
 #include "obj/workshop.h"
+#include "pose/form_mor.h"
+#include "pose/form_pz2.h"
+#include "pose/form_pz2_combine.h"
 
 #include <string>
 
@@ -41,6 +44,9 @@ class Workbench {
   builders::FormPhi formPhi_;
   builders::FormTree formTree_;
   materials::FormMatCoord formMatCoord_;
+  pose::FormPZ2 formPZ2_;
+  pose::FormMOR formMOR_;
+  pose::FormPZ2Combine formPZ2Combine_;
   front::Session session_;
   obj::Workshop workshop_;
 };
