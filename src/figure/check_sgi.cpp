@@ -1,7 +1,10 @@
 #include "figure/check_sgi.h"
 
 #include "figure/line_ending_repair.h"
+#include "text/byte_reader.h"
 #include "text/columns.h"
+#include "text/first_dot.h"
+#include "text/line_writer.h"
 
 namespace norvik::figure {
 
@@ -11,12 +14,6 @@ constexpr std::size_t kExaminedBytes = 200;
 
 bool isConventional(const text::Disk& disk, const std::string& path) {
   return text::holds(text::ByteReader(disk, path).read(kExaminedBytes), "\r\n");
-}
-
-/// The path up to and including its first dot; without a dot the whole path. The first, not the
-/// last: a dot in a folder's name cuts there.
-std::string_view upToFirstDot(std::string_view path) {
-  return text::leftmost(path, text::before(path, ".").size() + 1);
 }
 
 void convert(front::Session& session, const std::string& path, const std::string& scratchPath) {
@@ -56,9 +53,9 @@ void CheckSGI(front::Session& session, std::string& path) {
       "once, and it will not affect the file for Poser.",
       "Note!", front::kOk);
 
-  const std::string scratchPath = std::string{upToFirstDot(path)} + "new";
+  const std::string scratchPath = text::throughFirstDot(path, "new");
   const std::string backup =
-      std::string{text::before(path, ".")} + text::raised(text::extension(path)) + ".bak";
+      text::beforeFirstDot(path, text::raised(text::extension(path)) + ".bak");
   convert(session, path, scratchPath);
   swap(session.disk, path, scratchPath, backup);
   session.hourglass(false);
