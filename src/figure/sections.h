@@ -10,8 +10,8 @@
 
 namespace norvik::figure {
 
-/// What a line begins: "actor head:1", "prop hair", "material skin", "figure", or a group of a mesh,
-/// "g head". Empty for any other line.
+/// What a line begins: "actor head:1", "prop hair", "material skin", "figure", or a group of a
+/// mesh, "g head". Empty for any other line.
 std::string sectionOf(std::string_view line);
 
 /// A line of a file that names something.

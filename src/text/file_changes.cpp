@@ -28,9 +28,7 @@ class Version {
     while (lines_.size() <= index && !ended_) read();
     return index < lines_.size();
   }
-  std::uint64_t hash(std::size_t index) {
-    return has(index) ? lines_[index].hash : kEndOfFile;
-  }
+  std::uint64_t hash(std::size_t index) { return has(index) ? lines_[index].hash : kEndOfFile; }
   /// How many lines are ahead, counted up to `most`.
   std::size_t ahead(std::size_t most) {
     has(most);
@@ -211,8 +209,7 @@ class Comparison {
     std::size_t gone = 0;
     std::size_t come = 0;
     while (i < left || j < right) {
-      const bool same =
-          i < left && j < right && before_.hash(gone) == after_.hash(come);
+      const bool same = i < left && j < right && before_.hash(gone) == after_.hash(come);
       if (same) {
         add(gone, come);
         before_.pass(1);

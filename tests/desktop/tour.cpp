@@ -16,7 +16,9 @@
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
+#include <QTreeWidget>
 #include <QtTest>
 
 #include <iostream>
@@ -104,6 +106,35 @@ void takeWorkshopPictures(desktop::Program& program, desktop::Operator& hand,
   QTest::qWait(50);
 }
 
+/// What the question's further button shows; it answers nothing.
+void takeChanges(const QWidget& box, const Photographer& camera) {
+  QTimer::singleShot(300, [&camera] {
+    QWidget* changes = QApplication::activeModalWidget();
+    changes->move(0, 0);
+    camera.take(u"changes"_s, *changes);
+    changes->close();
+  });
+  QTest::mouseClick(box.findChild<QPushButton*>(u"ShowChanges"_s), Qt::LeftButton);
+}
+
+/// A figure is replaced, and replaced back.
+void takeHistory(desktop::Program& program, desktop::Operator& hand, const Photographer& camera,
+                 const QString& figure) {
+  hand.willPress(u"Yes"_s);
+  hand.willChoose(figure);
+  hand.click(u"PictureCopyToDest"_s);
+  program.mainWindow().findChild<QAction*>(u"History"_s)->trigger();
+  auto* window = program.mainWindow().findChild<QWidget*>(u"HistoryWindow"_s);
+  window->move(60, 200);
+  auto* list = window->findChild<QTreeWidget*>(u"HistoryList"_s);
+  list->setCurrentItem(list->topLevelItem(0));
+  camera.take(u"history"_s, *window);
+  window->close();
+  QTest::qWait(50);
+  hand.willPress(u"Yes"_s);
+  program.mainWindow().findChild<QAction*>(u"UndoLast"_s)->trigger();
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -125,9 +156,11 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.willLook([&](QWidget& box) {
     box.move(program.mainWindow().geometry().center() - box.rect().center());
     camera.take(u"question"_s);
+    takeChanges(box, camera);
   });
   hand.willPress(u"No"_s);
   hand.click(u"PictureCopyToDest"_s);
+  takeHistory(program, hand, camera, drive + kCharacters + u"tilda.cr2"_s);
 
   chooseTheme(program, u"dark"_s);
   camera.take(u"dark"_s);

@@ -50,7 +50,8 @@ HistoryWindow::HistoryWindow(Restorer& restorer, QWidget* parent)
   list_->setUniformRowHeights(true);
   list_->setAlternatingRowColors(true);
   list_->setHeaderLabels({QStringLiteral("Time"), QStringLiteral("File"), QStringLiteral("What"),
-                          QStringLiteral("Tool"), QStringLiteral("Size"), QStringLiteral("Folder")});
+                          QStringLiteral("Tool"), QStringLiteral("Size"),
+                          QStringLiteral("Folder")});
   restore_->setObjectName(QStringLiteral("HistoryRestore"));
   restore_->setToolTip(QStringLiteral("Puts this version back; the file as it is now is kept"));
   changes_->setObjectName(QStringLiteral("HistoryChanges"));
@@ -135,8 +136,8 @@ void HistoryWindow::applyFilter() {
   }
   const auto all = list_->topLevelItemCount();
   state_->setText(restorer_.history() == nullptr ? QStringLiteral("No earlier versions are kept.")
-                  : wanted.isEmpty() ? QStringLiteral("%1 earlier versions").arg(all)
-                                     : QStringLiteral("%1 of %2").arg(seen).arg(all));
+                  : wanted.isEmpty()             ? QStringLiteral("%1 earlier versions").arg(all)
+                                                 : QStringLiteral("%1 of %2").arg(seen).arg(all));
   updateButtons();
 }
 
@@ -166,13 +167,14 @@ void HistoryWindow::restoreChosen() {
 void HistoryWindow::showChosen() {
   const auto entry = chosen();
   if (!entry) return;
-  showChanges({.before = restorer_.history()->fileOf(*entry),
-               .after = entry->hostPath,
-               .title = QStringLiteral("Changes in ") + shown(text::fileTitle(entry->path)),
-               .explanation = QStringLiteral("From the version that was kept (%1) to the file as it "
-                                             "is now.")
-                                  .arg(inWords(*entry))},
-              this);
+  showChanges(
+      {.before = restorer_.history()->fileOf(*entry),
+       .after = entry->hostPath,
+       .title = QStringLiteral("Changes in ") + shown(text::fileTitle(entry->path)),
+       .explanation = QStringLiteral("From the version that was kept (%1) to the file as it "
+                                     "is now.")
+                          .arg(inWords(*entry))},
+      this);
 }
 
 void HistoryWindow::revealChosen() {

@@ -11,8 +11,8 @@ constexpr const char* kTrigger = "Undo";
 }  // namespace
 
 QString inWords(const text::HistoryEntry& entry) {
-  QString words = shown(text::fileTitle(entry.path)) + QStringLiteral(", ") +
-                  shown(text::lossName(entry.what));
+  QString words =
+      shown(text::fileTitle(entry.path)) + QStringLiteral(", ") + shown(text::lossName(entry.what));
   if (!entry.tool.empty()) words += QStringLiteral(" by ") + shown(entry.tool);
   if (!entry.when.empty()) words += QStringLiteral(" on ") + shown(entry.when);
   return words;
@@ -41,8 +41,9 @@ void Restorer::undoLast() {
   }
   const text::HistoryEntry& last = entries.front();
   const QString question =
-      QStringLiteral("Put back this earlier version?\n\n%1\n\n%2\n\nThe file that it replaces is "
-                     "kept in turn.")
+      QStringLiteral(
+          "Put back this earlier version?\n\n%1\n\n%2\n\nThe file that it replaces is "
+          "kept in turn.")
           .arg(shown(last.path), inWords(last));
   const auto answer =
       asker_.box(QStringLiteral("Undo"), question, front::kYesNo | front::kQuestion);
