@@ -58,7 +58,7 @@ void Restorer::openAgain(const std::string& path) {
 }
 
 void Restorer::openSourceAgain(const std::string& path) {
-  front::Label& trigger = session_.opening.LabelOpenSource;
+  front::Control& trigger = session_.opening.LabelOpenSource;
   if (!trigger.reachable()) return;
   frontEnd_.withChosen(path, [&] {
     dispatcher_.raise(trigger.pressed, front::Mouse{});
