@@ -86,7 +86,8 @@ void showTools(front::Opening& opening) {
   const std::initializer_list<front::Control*> tools = {
       &opening.PictureViewChannels, &opening.PictureJoints,   &opening.PictureTrash,
       &opening.PictureEMC,          &opening.PictureEditor,   &opening.PictureChangeRatio,
-      &opening.PictureOBJView,      &opening.LabelOpenSource, &opening.LabelOpenSourceTitle};
+      &opening.PictureOBJView,      &opening.LabelOpenSource, &opening.LabelOpenSourceTitle,
+      &opening.TextForceLimits,     &opening.ListTwistRemove, &opening.ListTwistRestore};
   for (front::Control* control : tools) control->show();
 }
 
