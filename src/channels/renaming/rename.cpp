@@ -1,6 +1,6 @@
-#include "channels/rename.h"
+#include "channels/renaming/rename.h"
 
-#include "channels/rename_passes.h"
+#include "channels/renaming/rename_passes.h"
 #include "figure/actor_entry.h"
 #include "figure/caption.h"
 #include "figure/save_path.h"

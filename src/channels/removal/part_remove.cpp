@@ -1,8 +1,8 @@
-#include "channels/part_remove.h"
+#include "channels/removal/part_remove.h"
 
-#include "channels/part_removal.h"
-#include "channels/scratch_turns.h"
-#include "channels/trash.h"
+#include "channels/removal/part_removal.h"
+#include "channels/removal/scratch_turns.h"
+#include "channels/removal/trash.h"
 #include "figure/actor_entry.h"
 #include "figure/caption.h"
 #include "figure/save_path.h"
