@@ -33,13 +33,13 @@ std::string block(const std::string& actor, const std::string& channels) {
          channels + lines({"\t\t}", "\t}"});
 }
 
-/// A morph of so many lines that it is written in several pieces.
-std::string morph(const std::string& name) {
+constexpr int kMany = 5000;  ///< so many deltas that a figure is written in several pieces
+
+std::string morph(const std::string& name, int deltas = 1) {
   std::string text =
       lines({"\t\ttargetGeom " + name, "\t\t\t{", "\t\t\tname " + name, "\t\t\tinitValue 0",
              "\t\t\tinterpStyleLocked 0", "\t\t\tdeltas", "\t\t\t\t{"});
-  constexpr int kDeltas = 3500;
-  for (int i = 0; i < kDeltas; ++i) text += "\t\t\t\td " + std::to_string(i) + " 0.01 0.02 0\r\n";
+  for (int i = 0; i < deltas; ++i) text += "\t\t\t\td " + std::to_string(i) + " 0.01 0.02 0\r\n";
   return text + lines({"\t\t\t\t}", "\t\t\t}"});
 }
 
@@ -74,12 +74,16 @@ struct Work {
 };
 
 Work workNamed(const std::string& name) {
-  const std::string both = figure("head:1", morph("Smile") + morph("Frown") + kTwist);
+  const std::string both = figure("head:1", morph("Smile") + morph("Frown", kMany) + kTwist);
   const std::string view = "item ListActors head:1\nclick PictureViewChannels\n";
   const std::string armed = "click PictureTrash\n";
   if (name == "Morph") {
-    return {"Morph", view + armed + "item ListChannels Smile\n", "drop ListChannels PictureTrash\n",
-            both,    figure("head:1", morph("Frown") + kTwist),  true};
+    return {"Morph",
+            view + armed + "item ListChannels Smile\n",
+            "drop ListChannels PictureTrash\n",
+            both,
+            figure("head:1", morph("Frown", kMany) + kTwist),
+            true};
   }
   if (name == "Morphs") {
     return {"Morphs",
@@ -115,11 +119,11 @@ Work workNamed(const std::string& name) {
   if (name == "RenamePart") {
     return {"RenamePart", rename + "click OptionBodyPartRename\n" + typed,
             "key TextMorphRename Enter\n", both,
-            figure("Neu:1", morph("Smile") + morph("Frown") + kTwist)};
+            figure("Neu:1", morph("Smile") + morph("Frown", kMany) + kTwist)};
   }
   return {"RenameMorph", rename + "click OptionChannelRename\nitem ListChannels Smile\n" + typed,
           "key TextMorphRename Enter\n", both,
-          figure("head:1", morph("Neu") + morph("Frown") + kTwist)};
+          figure("head:1", morph("Neu") + morph("Frown", kMany) + kTwist)};
 }
 
 struct Case {
@@ -200,7 +204,7 @@ TEST_P(SurgeryFaultsTest, TargetIsOldOrNew) {
   std::uint64_t n = 1;
   while (n < kMost && workWithFaultAt(n) && !HasFailure()) ++n;
   EXPECT_LT(n, kMost);
-  EXPECT_GT(n, 2U) << "the fault was never met";
+  EXPECT_GT(n, 1U) << "the fault was never met";
 }
 
 void addFaults(std::vector<Case>& cases, const char* work, const char* target,
@@ -216,11 +220,11 @@ std::vector<Case> allCases() {
   std::vector<Case> cases;
   for (const char* work : {"Morph", "Morphs", "Part", "Parts", "RenameMorph", "RenamePart"}) {
     addFaults(cases, work, kFigure, false);
+  }
+  for (const char* work : {"Morphs", "Parts", "RenamePart"}) {
     addFaults(cases, work, kOther, true);
   }
   addFaults(cases, "Morph", kNew, false);
-  addFaults(cases, "Part", kNew, true);
-  addFaults(cases, "RenamePart", kNew, false);
   return cases;
 }
 
