@@ -2,6 +2,9 @@
 
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
+#include "channels/removal/morph_removal.h"
+#include "channels/removal/part_removal.h"
+#include "channels/renaming/rename_passes.h"
 #include "figure/actor_lister.h"
 #include "figure/bracket_count.h"
 #include "figure/check_sgi.h"
@@ -133,6 +136,27 @@ void copyMorph(Bench& bench) {
   mustHold(bench.disk.exists("C:\\copied.cr2"), "nothing copied");
 }
 
+void removeMorph(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\XMorph.txt");
+  channels::removeItem(bench.session, pass,
+                       {channels::RemovedItem::Kind::morph, "lToeExtra300", {}}, "lToe:1");
+}
+
+void removePart(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\cr2.doc");
+  channels::removePart(pass, "abdomen:1");
+}
+
+void renameMorph(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\RenMorph.txt");
+  channels::renameMorph(pass, "lToeExtra300", "TheToe");
+}
+
+void renamePart(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\RenMorph.txt");
+  channels::renamePart(pass, {"head:1", "skull:1"});
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -180,6 +204,10 @@ const std::vector<Pass>& passes() {
       pass("path pass", substitution, plain, passPaths),
       pass("Save", substitution, plain, save),
       pass("copy of a morph", copy, plain, copyMorph),
+      pass("removal of a morph", rewrite, plain, removeMorph),
+      pass("removal of a body part", rewrite, plain, removePart),
+      pass("rename of a morph", rewrite, plain, renameMorph),
+      pass("rename of a body part", rewrite, plain, renamePart),
       pass("open", open, plain, openWhole)};
   return all;
 }

@@ -7,6 +7,7 @@
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
+#include "desktop/bind/drop_mark.h"
 #include "desktop/operator.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
@@ -135,6 +136,38 @@ void takeHistory(desktop::Program& program, desktop::Operator& hand, const Photo
   program.mainWindow().findChild<QAction*>(u"UndoLast"_s)->trigger();
 }
 
+/// The removals and the rename, up to the point where they would ask.
+void takeChannelPictures(desktop::Program& program, desktop::Operator& hand,
+                         const Photographer& camera) {
+  hand.clickItem(u"ListActors"_s, u"head:1"_s);
+  hand.click(u"PictureViewChannels"_s);
+  hand.find(u"ListChannels"_s).setFocus();
+  hand.shortcut(Qt::Key_F, Qt::ControlModifier);
+  QWidget& filter = hand.find(u"Filter.ListChannels"_s);
+  QTest::keyClicks(&filter, u"head"_s);
+  camera.take(u"channels-filter"_s);
+  QTest::keyClick(&filter, Qt::Key_Escape);
+
+  hand.click(u"PictureRenameMorph"_s);
+  hand.click(u"OptionChannelRename"_s);
+  hand.clickItem(u"ListChannels"_s, u"LongHead"_s);
+  hand.click(u"RenameNext"_s);
+  QTest::keyClicks(&hand.find(u"TextMorphRename"_s), u"TallHead"_s);
+  camera.take(u"channels-rename"_s);
+  chooseTheme(program, u"dark"_s);
+  camera.take(u"channels-rename-dark"_s);
+  chooseTheme(program, u"light"_s);
+  QTest::keyClick(&hand.find(u"TextMorphRename"_s), Qt::Key_Escape);
+
+  hand.click(u"PictureTrash"_s);
+  {
+    const desktop::DropMarks marks;
+    camera.take(u"channels-trash"_s);
+  }
+  hand.click(u"PictureTrash"_s);
+  hand.click(u"PictureViewChannels"_s);
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -146,6 +179,8 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.hover(u"TextMainTex"_s);
   camera.take(u"textures"_s);
   hand.clickItem(u"ListAllTexMaps"_s, u"tilda"_s);
+
+  takeChannelPictures(program, hand, camera);
 
   hand.willChoose(drive + kCharacters + u"tilda2.cr2"_s);
   hand.click(u"LabelOpenSource"_s);

@@ -1,4 +1,5 @@
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/panes.h"
 
 #include <QAbstractButton>
@@ -21,6 +22,7 @@ QWidget* makeParts(Maker& maker, front::Opening& opening, QWidget& parent) {
   column->addWidget(&heading);
   auto& actors = maker.list(opening.ListActors, *side);
   actors.setAccessibleName(QStringLiteral("Body parts"));
+  column->addWidget(new ListFilter(opening.ListActors, actors, *side));
   column->addWidget(&actors, 1);
   for (front::ListBox* list : {&opening.ListAltGeomActors, &opening.ListboxListCR2Files}) {
     column->addWidget(&maker.list(*list, *side), 1);

@@ -63,9 +63,6 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   constexpr int kName = 260;
   constexpr int kNumber = 90;
   Row row(maker, parent);
-  row.add(opening.TextMorphRename, "New name", kName);
-  row.add(opening.OptionChannelRename);
-  row.add(opening.OptionBodyPartRename);
   row.add(opening.TextERCUnique, "Unique name", kName);
   row.add(opening.TextTrackingSpeed, "Tracking speed", kNumber);
   row.add(opening.TextOBJScale, "Scale", kNumber);
@@ -74,11 +71,10 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
   row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
   QWidget* widget = row.finish();
-  maker.showWhileAny(
-      *widget, {&opening.TextMorphRename, &opening.OptionChannelRename,
-                &opening.OptionBodyPartRename, &opening.TextERCUnique, &opening.TextTrackingSpeed,
-                &opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
-                &opening.FrameMash, &opening.FrameExtractObj});
+  maker.showWhileAny(*widget,
+                     {&opening.TextERCUnique, &opening.TextTrackingSpeed, &opening.TextOBJScale,
+                      &opening.SliderOBJScale, &opening.CheckOBJBatch, &opening.FrameMash,
+                      &opening.FrameExtractObj});
   return widget;
 }
 

@@ -1,10 +1,12 @@
 #include "desktop/window/main_window.h"
 
 #include "desktop/bind/drag.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/overlays.h"
 #include "desktop/window/panes.h"
 #include "desktop/window/place.h"
 #include "desktop/window/recent_menu.h"
+#include "desktop/window/rename_row.h"
 #include "desktop/window/splash_page.h"
 #include "desktop/window/tool_strip.h"
 #include "desktop/window/view_menu.h"
@@ -64,7 +66,12 @@ void MainWindow::makeMenus() {
   menus_->action(opening_.menuScreenRes)->setShortcut(QKeySequence(Qt::Key_F11));
   menus_->action(opening_.MenuHelp)->setShortcut(QKeySequence(Qt::Key_F1));
   const Theme present = themeNamed(session_.settings.get(kWindowSection, kThemeKey, "system"));
-  addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  QMenu* view = addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  view->addSeparator();
+  QAction* filter = view->addAction(QStringLiteral("&Filter the List"));
+  filter->setObjectName(QStringLiteral("FilterList"));
+  filter->setShortcut(QKeySequence::Find);
+  connect(filter, &QAction::triggered, this, [this] { openFilter(*this); });
 }
 
 void MainWindow::makeCentre() {
@@ -72,6 +79,7 @@ void MainWindow::makeCentre() {
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
+  column->addWidget(makeRenameRow(maker_, opening_, *centre));
   column->addWidget(makeEntryRow(maker_, opening_, *centre));
 
   auto* pages = new QStackedWidget(centre);

@@ -1,8 +1,8 @@
-#include "channels/morph_remove.h"
+#include "channels/removal/morph_remove.h"
 
-#include "channels/morph_removal.h"
-#include "channels/scratch_turns.h"
-#include "channels/trash.h"
+#include "channels/removal/morph_removal.h"
+#include "channels/removal/scratch_turns.h"
+#include "channels/removal/trash.h"
 #include "figure/save_path.h"
 #include "text/columns.h"
 

@@ -1,4 +1,4 @@
-#include "channels/scratch_turns.h"
+#include "channels/removal/scratch_turns.h"
 
 #include "text/rewrite_pass.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 // The pass that takes one item of ListChannels out of a figure.
 
-#include "channels/removed_item.h"
+#include "channels/removal/removed_item.h"
 #include "front/session.h"
 #include "text/rewrite_pass.h"
 

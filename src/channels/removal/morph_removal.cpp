@@ -1,4 +1,4 @@
-#include "channels/morph_removal.h"
+#include "channels/removal/morph_removal.h"
 
 #include "channels/channel_entry.h"
 #include "channels/channel_scan.h"

@@ -1,6 +1,6 @@
-#include "channels/rename.h"
+#include "channels/renaming/rename.h"
 
-#include "channels/rename_passes.h"
+#include "channels/renaming/rename_passes.h"
 #include "figure/actor_entry.h"
 #include "figure/caption.h"
 #include "figure/save_path.h"
@@ -207,13 +207,13 @@ void wireRename(front::Session& session) {
   opening.TextMorphRename.key.add([&session](const std::string& key) {
     if (key == "Enter") goOn(session);
   });
-  for (front::Control* control : {static_cast<front::Control*>(&opening.TextMorphRename),
-                                  static_cast<front::Control*>(&opening.OptionChannelRename),
-                                  static_cast<front::Control*>(&opening.OptionBodyPartRename)}) {
-    control->key.add([&opening](const std::string& key) {
-      if (key == "Escape") putAway(opening);
-    });
-  }
+  const auto escape = [&opening](const std::string& key) {
+    if (key == "Escape") putAway(opening);
+  };
+  opening.TextMorphRename.key.add(escape);
+  opening.OptionChannelRename.key.add(escape);
+  opening.OptionBodyPartRename.key.add(escape);
+  opening.key.add(escape);
 }
 
 }  // namespace norvik::channels

@@ -1,4 +1,4 @@
-#include "channels/part_removal.h"
+#include "channels/removal/part_removal.h"
 
 #include "text/line_search.h"
 

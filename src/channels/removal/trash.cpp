@@ -1,7 +1,7 @@
-#include "channels/trash.h"
+#include "channels/removal/trash.h"
 
-#include "channels/morph_remove.h"
-#include "channels/part_remove.h"
+#include "channels/removal/morph_remove.h"
+#include "channels/removal/part_remove.h"
 #include "text/columns.h"
 
 namespace norvik::channels {

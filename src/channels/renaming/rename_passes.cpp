@@ -1,4 +1,4 @@
-#include "channels/rename_passes.h"
+#include "channels/renaming/rename_passes.h"
 
 #include "channels/channel_entry.h"
 #include "text/line_search.h"

@@ -1,12 +1,14 @@
-#include "channels/part_remove.h"
+#include "channels/removal/part_remove.h"
 
-#include "channels/part_removal.h"
-#include "channels/scratch_turns.h"
-#include "channels/trash.h"
+#include "channels/removal/part_removal.h"
+#include "channels/removal/scratch_turns.h"
+#include "channels/removal/trash.h"
 #include "figure/actor_entry.h"
 #include "figure/caption.h"
 #include "figure/save_path.h"
 #include "text/columns.h"
+
+#include <optional>
 
 namespace norvik::channels {
 
@@ -39,7 +41,9 @@ void showSaved(front::Session& session, const std::string& path) {
 
 void offerResult(front::Session& session, const ScratchTurns& turns) {
   front::Opening& opening = session.opening;
-  const front::ResultOffer offer(session, turns.result(), opening.OpenedPath);
+  // With nothing selected there is none.
+  std::optional<front::ResultOffer> offer;
+  if (turns.hasResult()) offer.emplace(session, turns.result(), opening.OpenedPath);
   const front::Answer answer = session.front.messageBox(
       "You are about to remove one or more body parts.  Save changes?", "Alert!", front::kYesNo);
   if (answer != front::Answer::yes) return;

@@ -1,4 +1,4 @@
-#include "channels/removed_item.h"
+#include "channels/removal/removed_item.h"
 
 #include "text/columns.h"
 
