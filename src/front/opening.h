@@ -33,6 +33,7 @@ class Opening : public Form, public OpeningMenus {
   std::string PoserLocation;  ///< Poser's folder with its backslash, as last read from the settings
   std::string ProgramFolder;  ///< the scratch files' folder, without a backslash at its end
   std::string DragOrigin;     ///< "Channels" or "Actors": where the mouse went down last
+  int RenameKind = 0;         ///< 48: a new name is awaited; 481: the last rename was a body part's
   std::string ChosenPart;     ///< the actor that a dial tool was last used on
   std::string MirrorMorph;    ///< the morph that waits for its other side; empty: none
   float TargetLine = 0;       ///< the line whose tracking speed is being entered
