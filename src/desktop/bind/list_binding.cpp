@@ -121,7 +121,9 @@ bool ListBinding::key(const QKeyEvent& event) {
   if (list_.key.hasHandlers()) {
     const std::string name = keyName(event);
     if (!name.empty()) raise(list_.key, name);
-    if (name == "Enter" || name == "Escape" || name == "Delete") return true;
+    if (name == "Enter" || name == "Escape" || name == "Delete" || name.starts_with("Alt+")) {
+      return true;
+    }
   }
   const QModelIndex current = view_.currentIndex();
   if (event.modifiers() == Qt::ShiftModifier && event.key() == Qt::Key_F10) {

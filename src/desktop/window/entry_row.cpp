@@ -66,19 +66,16 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   row.add(opening.TextMorphRename, "New name", kName);
   row.add(opening.OptionChannelRename);
   row.add(opening.OptionBodyPartRename);
-  row.add(opening.TextERCUnique, "Unique name", kName);
-  row.add(opening.TextTrackingSpeed, "Tracking speed", kNumber);
   row.add(opening.TextOBJScale, "Scale", kNumber);
   row.add(opening.SliderOBJScale);
   row.add(opening.CheckOBJBatch);
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
   row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
   QWidget* widget = row.finish();
-  maker.showWhileAny(
-      *widget, {&opening.TextMorphRename, &opening.OptionChannelRename,
-                &opening.OptionBodyPartRename, &opening.TextERCUnique, &opening.TextTrackingSpeed,
-                &opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
-                &opening.FrameMash, &opening.FrameExtractObj});
+  maker.showWhileAny(*widget,
+                     {&opening.TextMorphRename, &opening.OptionChannelRename,
+                      &opening.OptionBodyPartRename, &opening.TextOBJScale, &opening.SliderOBJScale,
+                      &opening.CheckOBJBatch, &opening.FrameMash, &opening.FrameExtractObj});
   return widget;
 }
 
