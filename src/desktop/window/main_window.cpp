@@ -1,6 +1,8 @@
 #include "desktop/window/main_window.h"
 
 #include "desktop/bind/drag.h"
+#include "desktop/window/dial_cards.h"
+#include "desktop/window/dial_row.h"
 #include "desktop/window/list_filter.h"
 #include "desktop/window/overlays.h"
 #include "desktop/window/panes.h"
@@ -81,6 +83,7 @@ void MainWindow::makeCentre() {
   column->setSpacing(0);
   column->addWidget(makeRenameRow(maker_, opening_, *centre));
   column->addWidget(makeEntryRow(maker_, opening_, *centre));
+  column->addWidget(makeDialRow(maker_, opening_, *centre));
 
   auto* pages = new QStackedWidget(centre);
   pages->addWidget(makeSplashPage(opening_, *pages));
@@ -111,6 +114,7 @@ void MainWindow::makeCentre() {
   splash->setShower([pages](bool shown) { pages->setCurrentIndex(shown ? 0 : 1); });
   maker_.bindings().add(std::move(splash));
   makeOverlays(maker_, opening_, *centre);
+  makeDialCards(maker_, opening_, *centre, *menus_);
 }
 
 /// Timers, and the labels and lists that hold state: should a tool show one, it is seen.
@@ -191,6 +195,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
   const std::string name = keyName(*event);
   if (!name.empty() && opening_.key.hasHandlers()) maker_.dispatcher().raise(opening_.key, name);
   if (name == "Escape" && opening_.ListMRU.visible()) opening_.ListMRU.hide();
+  if (name == "Escape") putDialToolsAway(maker_.dispatcher(), opening_);
   maker_.dispatcher().sync();
   QMainWindow::keyPressEvent(event);
 }
