@@ -2,6 +2,7 @@
 
 #include "figure/line_ending_repair.h"
 #include "text/columns.h"
+#include "text/first_dot.h"
 
 namespace norvik::figure {
 
@@ -13,12 +14,6 @@ bool isConventional(const text::Disk& disk, const std::string& path) {
   return text::holds(text::ByteReader(disk, path).read(kExaminedBytes), "\r\n");
 }
 
-/// The path up to and including its first dot; without a dot the whole path. The first, not the
-/// last: a dot in a folder's name cuts there.
-std::string_view upToFirstDot(std::string_view path) {
-  return text::leftmost(path, text::before(path, ".").size() + 1);
-}
-
 void convert(front::Session& session, const std::string& path, const std::string& scratchPath) {
   text::ignoringErrors([&] { session.disk.remove(scratchPath); });
   text::ByteReader source(session.disk, path);
@@ -28,12 +23,11 @@ void convert(front::Session& session, const std::string& path, const std::string
   scratch.close();
 }
 
+/// Whatever fails, a whole figure stands under the name: while there is no backup, the original.
 void swap(text::Disk& disk, const std::string& path, const std::string& scratchPath,
           const std::string& backup) {
-  disk.adoptIdentity(scratchPath, path);
   text::ignoringErrors([&] { disk.remove(backup); });
-  text::ignoringErrors([&] { disk.rename(path, backup); });
-  text::ignoringErrors([&] { disk.rename(scratchPath, path); });
+  text::ignoringErrors([&] { disk.replaceKeeping(scratchPath, path, backup); });
 }
 
 }  // namespace
@@ -57,7 +51,7 @@ void CheckSGI(front::Session& session, std::string& path) {
       "once, and it will not affect the file for Poser.",
       "Note!", front::kOk);
 
-  const std::string scratchPath = std::string{upToFirstDot(path)} + "new";
+  const std::string scratchPath = text::withEnding(path, "new");
   const std::string backup =
       std::string{text::before(path, ".")} + text::raised(text::extension(path)) + ".bak";
   convert(session, path, scratchPath);

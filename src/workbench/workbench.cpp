@@ -3,8 +3,21 @@
 #include "builders/figures/library_file.h"
 #include "builders/figures/master_cr2.h"
 #include "builders/figures/null_figure.h"
+#include "builders/phi/create_phi.h"
+#include "builders/phi/cut_branch.h"
+#include "builders/phi/edit_phi.h"
+#include "builders/phi/phi_lister.h"
+#include "builders/phi/view_phi.h"
+#include "builders/transfer/extract_part.h"
+#include "builders/transfer/graft_part.h"
+#include "channels/actor_double_click.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
+#include "channels/dials/dial_tools.h"
+#include "channels/joints/joints.h"
+#include "channels/mirror/extract.h"
+#include "channels/mirror/mirror.h"
+#include "channels/rename.h"
 #include "channels/trash.h"
 #include "erc/change_ratio.h"
 #include "erc/link_builder.h"
@@ -17,6 +30,8 @@
 #include "figure/save.h"
 #include "figure/source_open.h"
 #include "front/help_boxes.h"
+#include "front/history_limits.h"
+#include "front/scratch_files.h"
 #include "lifecycle/closing_animation.h"
 #include "lifecycle/exit.h"
 #include "lifecycle/file_menu.h"
@@ -32,6 +47,7 @@
 #include "obj/spin.h"
 #include "obj/view.h"
 #include "obj/view_keys.h"
+#include "text/history.h"
 
 namespace norvik::workbench {
 
@@ -42,9 +58,22 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(dialogErc_);
   session_.addForm(formEcm_);
   session_.addForm(formListEmcs_);
+  session_.addForm(formPhi_);
+  session_.addForm(formTree_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
+  setUpHistory();
+}
+
+void Workbench::setUpHistory() {
+  text::History* const history = session_.disk.history();
+  if (history == nullptr) return;
+  history->setClock([this] { return session_.front.now(); });
+  history->setLimits([this] { return front::historyLimits(session_.settings); });
+  text::ignoringErrors([&] {
+    history->setScratchFiles(session_.disk.hostPath(opening_.ProgramFolder), front::isScratchFile);
+  });
 }
 
 void Workbench::wireTools() {
@@ -60,12 +89,25 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  channels::wireRename(session_);
+  channels::wireActorDoubleClick(session_);
+  channels::wireDialTools(session_);
+  channels::wireMirror(session_);
+  channels::wireExtract(session_);
+  channels::wireJoints(session_);
   erc::wireLinkBuilder(session_, dialogErc_, formEcm_);
   erc::wireRatioListing(session_, formListEmcs_);
   erc::wireChangeRatio(session_, formListEmcs_);
   builders::wireMasterCr2(session_);
   builders::wireNullFigure(session_);
   builders::wireLibraryFile(session_);
+  builders::wireExtractPart(session_);
+  builders::wireGraftPart(session_);
+  builders::wireCreatePhi(session_, formPhi_);
+  builders::wireViewPhi(session_, formPhi_);
+  builders::wireEditPhi(session_, formPhi_);
+  builders::wirePhiLister(session_, formTree_);
+  builders::wireCutBranch(session_, formTree_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);
@@ -83,7 +125,7 @@ void Workbench::wireTools() {
 }
 
 void Workbench::start() {
-  session_.deliver([this] { lifecycle::startProgram(session_); });
+  session_.deliver(opening_.name(), [this] { lifecycle::startProgram(session_); });
 }
 
 }  // namespace norvik::workbench

@@ -1,6 +1,8 @@
 #pragma once
 // The assembly of the program: the forms, and every tool on its trigger.
 
+#include "builders/phi/form_phi.h"
+#include "builders/phi/form_tree.h"
 #include "erc/dialog_erc.h"
 #include "erc/form_ecm.h"
 #include "erc/form_list_emcs.h"
@@ -28,12 +30,15 @@ class Workbench {
 
  private:
   void wireTools();
+  void setUpHistory();
 
   front::Opening opening_;
   front::FormOBJ formObj_;
   erc::DialogERC dialogErc_;
   erc::FormECM formEcm_;
   erc::FormListEMCs formListEmcs_;
+  builders::FormPhi formPhi_;
+  builders::FormTree formTree_;
   front::Session session_;
   obj::Workshop workshop_;
 };
