@@ -1,8 +1,10 @@
 #include "figure/check_sgi.h"
 
 #include "figure/line_ending_repair.h"
+#include "text/byte_reader.h"
 #include "text/columns.h"
 #include "text/first_dot.h"
+#include "text/line_writer.h"
 
 namespace norvik::figure {
 
@@ -51,9 +53,9 @@ void CheckSGI(front::Session& session, std::string& path) {
       "once, and it will not affect the file for Poser.",
       "Note!", front::kOk);
 
-  const std::string scratchPath = text::withEnding(path, "new");
+  const std::string scratchPath = text::throughFirstDot(path, "new");
   const std::string backup =
-      std::string{text::before(path, ".")} + text::raised(text::extension(path)) + ".bak";
+      text::beforeFirstDot(path, text::raised(text::extension(path)) + ".bak");
   convert(session, path, scratchPath);
   swap(session.disk, path, scratchPath, backup);
   session.hourglass(false);

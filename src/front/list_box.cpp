@@ -39,6 +39,13 @@ void ListBox::insert(int index, std::string_view item) {
   touch();
 }
 
+void ListBox::setItem(int index, std::string_view item) {
+  if (!holds(index)) return;
+  items_[static_cast<std::size_t>(index)] = item;
+  ++itemChanges_;
+  touch();
+}
+
 void ListBox::remove(int index) {
   if (!holds(index)) return;
   items_.erase(items_.begin() + index);

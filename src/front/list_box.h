@@ -33,6 +33,8 @@ class ListBox : public Control {
   void add(std::string_view item);
   /// Adds an item in front of the one at an index, at the end for the index behind the last one.
   void insert(int index, std::string_view item);
+  /// Gives an item another text; it stays selected if it was.
+  void setItem(int index, std::string_view item);
   /// Takes an item out; those behind it move up with their selection.
   void remove(int index);
   /// Counts the changes of the items, so that a front end that draws them can tell a change of the

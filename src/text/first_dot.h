@@ -1,17 +1,24 @@
 #pragma once
-// Names of results: a path up to its first dot.
+// Names that tools make out of a file's path. They cut at the first dot, not at the last: a dot in
+// a folder's name cuts there.
+
+#include "text/columns.h"
 
 #include <string>
 #include <string_view>
 
 namespace norvik::text {
 
-/// The path up to and including its first dot; without a dot the whole path. The first, not the
-/// last: a dot in a folder's name cuts there.
-std::string_view upToFirstDot(std::string_view path);
+/// The path up to and including its first dot, and an ending: "C:\x\scene.pz3" and "mtl" make
+/// "C:\x\scene.mtl". A path without a dot is taken whole.
+inline std::string throughFirstDot(std::string_view path, std::string_view ending = {}) {
+  return std::string{leftmost(path, before(path, ".").size() + 1)}.append(ending);
+}
 
-/// That with another ending behind the dot: "C:\figures\anna.cr2" and "phi" make
-/// "C:\figures\anna.phi", "C:\my.files\anna.cr2" makes "C:\my.phi".
-std::string withEnding(std::string_view path, std::string_view ending);
+/// The path in front of its first dot, and an ending: "C:\x\scene.pz3" and "-AVI.pp2" make
+/// "C:\x\scene-AVI.pp2".
+inline std::string beforeFirstDot(std::string_view path, std::string_view ending = {}) {
+  return std::string{before(path, ".")}.append(ending);
+}
 
 }  // namespace norvik::text

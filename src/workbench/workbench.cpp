@@ -3,11 +3,16 @@
 #include "builders/figures/library_file.h"
 #include "builders/figures/master_cr2.h"
 #include "builders/figures/null_figure.h"
+#include "builders/geometry/alternate_geometry.h"
 #include "builders/phi/create_phi.h"
 #include "builders/phi/cut_branch.h"
 #include "builders/phi/edit_phi.h"
 #include "builders/phi/phi_lister.h"
 #include "builders/phi/view_phi.h"
+#include "builders/scenes/avi_background.h"
+#include "builders/scenes/camera_convertor.h"
+#include "builders/scenes/mtl_creator.h"
+#include "builders/scenes/pz3_to_cr2.h"
 #include "builders/transfer/extract_part.h"
 #include "builders/transfer/graft_part.h"
 #include "channels/actor_double_click.h"
@@ -38,6 +43,8 @@
 #include "lifecycle/help_menu.h"
 #include "lifecycle/recent_click.h"
 #include "lifecycle/start.h"
+#include "materials/material_colour.h"
+#include "materials/material_coordinator.h"
 #include "obj/fall_back_view.h"
 #include "obj/hot_keys.h"
 #include "obj/leaving.h"
@@ -47,6 +54,11 @@
 #include "obj/spin.h"
 #include "obj/view.h"
 #include "obj/view_keys.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_colours.h"
+#include "pose/mor_builder.h"
+#include "pose/pz2_editor.h"
+#include "pose/weld.h"
 #include "text/history.h"
 
 namespace norvik::workbench {
@@ -60,6 +72,10 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formListEmcs_);
   session_.addForm(formPhi_);
   session_.addForm(formTree_);
+  session_.addForm(formMatCoord_);
+  session_.addForm(formPZ2_);
+  session_.addForm(formMOR_);
+  session_.addForm(formPZ2Combine_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -108,6 +124,18 @@ void Workbench::wireTools() {
   builders::wireEditPhi(session_, formPhi_);
   builders::wirePhiLister(session_, formTree_);
   builders::wireCutBranch(session_, formTree_);
+  builders::wireAlternateGeometry(session_);
+  builders::wirePz3ToCr2(session_);
+  builders::wireAviBackground(session_);
+  builders::wireCameraConvertor(session_);
+  builders::wireMtlCreator(session_);
+  materials::wireMaterialColours(session_);
+  materials::wireMaterialCoordinator(session_, formMatCoord_);
+  pose::wirePz2Editor(session_, formPZ2_);
+  pose::wireMatColours(session_, formPZ2_);
+  pose::wireDonePZ2(session_, formPZ2_);
+  pose::wireMorBuilder(session_, formMOR_);
+  pose::wireWelder(session_, formPZ2Combine_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);

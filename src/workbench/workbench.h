@@ -8,7 +8,11 @@
 #include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
+#include "materials/form_mat_coord.h"
 #include "obj/workshop.h"
+#include "pose/form_mor.h"
+#include "pose/form_pz2.h"
+#include "pose/form_pz2_combine.h"
 
 #include <string>
 
@@ -39,6 +43,10 @@ class Workbench {
   erc::FormListEMCs formListEmcs_;
   builders::FormPhi formPhi_;
   builders::FormTree formTree_;
+  materials::FormMatCoord formMatCoord_;
+  pose::FormPZ2 formPZ2_;
+  pose::FormMOR formMOR_;
+  pose::FormPZ2Combine formPZ2Combine_;
   front::Session session_;
   obj::Workshop workshop_;
 };

@@ -78,9 +78,9 @@ TEST(LineOnHandTest, PassingOverLinesChangesNothing) {
 }
 
 TEST(FirstDotTest, TheFirstDotOfTheWholePathCounts) {
-  EXPECT_EQ(text::withEnding("C:\\figures\\anna.cr2", "phi"), "C:\\figures\\anna.phi");
-  EXPECT_EQ(text::withEnding("C:\\my.files\\anna.cr2", "phi"), "C:\\my.phi");
-  EXPECT_EQ(text::withEnding("C:\\anna", "phi"), "C:\\annaphi");
+  EXPECT_EQ(text::throughFirstDot("C:\\figures\\anna.cr2", "phi"), "C:\\figures\\anna.phi");
+  EXPECT_EQ(text::throughFirstDot("C:\\my.files\\anna.cr2", "phi"), "C:\\my.phi");
+  EXPECT_EQ(text::throughFirstDot("C:\\anna", "phi"), "C:\\annaphi");
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ void createPhi(front::Session& session, FormPhi& form) {
   session.hourglass(true);
 
   const std::string scratch = opening.inProgramFolder(kScratch);
-  const std::string target = text::withEnding(figure, "phi");
+  const std::string target = text::throughFirstDot(figure, "phi");
   try {
     if (!writePhi(session, figure, scratch)) {
       session.hourglass(false);
