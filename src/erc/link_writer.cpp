@@ -63,7 +63,8 @@ class LinkWriter {
   bool rewrite(const Target& target) {
     text::RewritePass pass(session_.disk, figure_, scratch_);
     passTarget(target, pass.in(), &pass.out());
-    passChannel(pass);
+    // The first line behind the part that holds the channel, be it a link that names it.
+    if (const auto channel = channelOf(kind_, form_)) copyThrough(pass, *channel);
     copyThrough(pass, kHeaderEnd);
     const std::string behind{pass.in().line()};
     const bool linked = text::holds(behind, kLinkStart);
@@ -78,16 +79,6 @@ class LinkWriter {
     pass.copyRest();
     pass.finish();
     return true;
-  }
-
-  /// From the part to the channel: the first line behind it that holds the channel's four letters,
-  /// be it a link that names them.
-  void passChannel(text::RewritePass& pass) {
-    constexpr std::size_t kChannelLength = 4;
-    const bool joint = kind_.routine == Routine::JCJ || kind_.kind == Kind::TCJ;
-    if (!joint && (kind_.routine != Routine::JCT || kind_.kind == Kind::TCM)) return;
-    const std::string& channel = joint ? form_.SlavedChannel : form_.SecondChannel;
-    copyThrough(pass, text::leftmost(channel, kChannelLength));
   }
 
   static void copyThrough(text::RewritePass& pass, std::string_view token) {
