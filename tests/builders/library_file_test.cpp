@@ -187,6 +187,7 @@ TEST(LibraryFileFaultsTest, CopyIsOldOrNew) {
       const TemporaryFolder drive;
       drive.write("figures/my.cr2", source);
       drive.write("figures/newmy.cr2", "an older copy\r\n");
+      drive.makeFolder("Poser/Runtime/Geometries/Doll");
       drive.makeFolder("Poser/Runtime/Geometries/my");
       FaultyHost host(*real);
       ScriptedWorkbench workbench(host, drive.path());
@@ -208,7 +209,7 @@ TEST(LibraryFileFaultsTest, CopyIsOldOrNew) {
       ASSERT_TRUE(isNew || met) << events;
       ASSERT_TRUE(isNew || events.find("runtime-error") != std::string::npos) << events;
     }
-    EXPECT_GT(n, 5U);
+    EXPECT_GT(n, 2U);
     EXPECT_LT(n, kMost);
   }
 }

@@ -41,11 +41,11 @@ TEST(JointRatioTest, HasNoSignColumnAndNoZeroInFrontOfThePoint) {
 
 TEST(JointRatioTest, TakesAMastersZeroForOne) {
   Limits limits;
-  limits.add("m", "0", "5");
-  limits.add("n", "-5", "0");
-  limits.add("s", "0", "12");
-  EXPECT_EQ(ratioOfJoints(limits.List, "m", "s"), "3");
-  EXPECT_EQ(ratioOfJoints(limits.List, "n", "s"), "2");
+  limits.add("low", "0", "5");
+  limits.add("high", "-5", "0");
+  limits.add("slaved", "0", "12");
+  EXPECT_EQ(ratioOfJoints(limits.List, "low", "slaved"), "3");
+  EXPECT_EQ(ratioOfJoints(limits.List, "high", "slaved"), "2");
 }
 
 TEST(JointRatioTest, TakesTheFirstChannelThatHoldsTheText) {
