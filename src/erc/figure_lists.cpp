@@ -31,7 +31,7 @@ bool passFigure(text::LineReader& in) {
 /// The line with the name, among the three fields behind "figure": the first that says so, or the
 /// last of them.
 std::string nameLine(text::LineReader& in) {
-  std::array<std::string, 3> fields;
+  std::array<std::string, 3> fields{};
   for (std::string& field : fields) field = in.field();
   for (const std::string& field : fields) {
     if (text::holds(field, "name")) return field;
