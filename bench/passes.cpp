@@ -5,6 +5,9 @@
 #include "channels/removal/morph_removal.h"
 #include "channels/removal/part_removal.h"
 #include "channels/renaming/rename_passes.h"
+#include "erc/change_ratio.h"
+#include "erc/link_kinds.h"
+#include "erc/link_writer.h"
 #include "figure/actor_lister.h"
 #include "figure/bracket_count.h"
 #include "figure/check_sgi.h"
@@ -218,6 +221,46 @@ void makeUnique(Bench& bench) {
   mustHold(bench.disk.exists("C:\\figure_Unique.cr2"), "no copy");
 }
 
+/// What FormECM holds behind its choices; the result stays in the scratch file.
+void writeLink(Bench& bench) {
+  erc::FormECM form;
+  form.LabelPBM.show();
+  form.TextPBM1.setText("lToeExtra300");
+  form.TextPBM2.setText("Figure 1");
+  form.TextPBM3.setText("lToeExtra299");
+  form.TextPBM4.setText("lToe");
+  form.TextPBMRatio.setText("1.000000");
+  bench.answers().queueBox(front::Answer::yes);
+  bench.answers().queueDialog({});
+  erc::writeLink(bench.session, form, *erc::kindOnView(form));
+  mustHold(bench.disk.exists("C:\\Norvik\\EMC.tmp"), "no link written");
+}
+
+void listLinks(Bench& bench) {
+  bench.opening.PictureChangeRatio.released.raise({});
+  const auto* form = dynamic_cast<erc::FormListEMCs*>(bench.session.findForm("FormListEMCs"));
+  mustHold(form != nullptr && form->ListEMCs.count() > 2, "no links listed");
+}
+
+/// The result stays in the scratch file here as well.
+void changeRatio(Bench& bench) {
+  erc::FormListEMCs form;
+  form.LabelTitle.setCaption(bench.path);
+  form.ListEMCs.add("\tDelta Control Ratio: 1");
+  form.ListEMCs.choose(0);
+  form.RatioLines = {"", "Delta Control Ratio: 1#1000000"};
+  form.Text1.setText("2");
+  bench.answers().queueBox(front::Answer::no);
+  erc::wireChangeRatio(bench.session, form);
+  form.Text1.key.raise("Enter");
+  mustHold(bench.disk.exists("C:\\Norvik\\ChangeRatio.txt"), "no ratio changed");
+}
+
+void makeNullFigure(Bench& bench) {
+  bench.opening.menuNullFig.clicked.raise();
+  mustHold(bench.disk.exists("C:\\figure_Null.cr2"), "no null figure");
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -276,7 +319,11 @@ const std::vector<Pass>& passes() {
       pass("ERC unique name", rewrite, plain, makeUnique),
       pass("tracking speed, reading twice", copy, plain, changeTrackingSpeed),
       pass("joints, extract and transfer", copy, plain, transferJoints),
-      pass("IK chains", rewrite, plain, removeIkChains)};
+      pass("IK chains", rewrite, plain, removeIkChains),
+      pass("link", rewrite, plain, writeLink),
+      pass("list of links", read, plain, listLinks),
+      pass("ratio", rewrite, plain, changeRatio),
+      pass("null figure", rewrite, plain, makeNullFigure)};
   return all;
 }
 

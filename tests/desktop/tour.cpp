@@ -8,6 +8,7 @@
 // DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
 #include "desktop/bind/drop_mark.h"
+#include "desktop/link_pictures.h"
 #include "desktop/operator.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
@@ -204,6 +205,10 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
   QTest::keyClick(static_cast<QWidget*>(program.mainWindow().menuBar()), Qt::Key_Escape);
   chooseTheme(program, u"light"_s);
+
+  desktop::takeLinkPictures(
+      hand, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 
   hand.menu({u"MenuCR2Tools"_s, u"MenuBrack"_s});
   QTest::qWait(1700);

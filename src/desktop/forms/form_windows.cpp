@@ -1,5 +1,8 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/link_dialog_window.h"
+#include "desktop/forms/link_window.h"
+#include "desktop/forms/ratio_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -19,8 +22,16 @@ std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& p
                                       parts.unload, parts.parent);
 }
 
+template <typename Window, typename Form>
+std::unique_ptr<FormWindow> makeLaidOut(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<Window>(parts, dynamic_cast<Form&>(form));
+}
+
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
+    {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
+    {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
+    {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
     {"FormOBJ", makeWorkshop},
 };
 
