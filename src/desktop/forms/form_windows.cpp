@@ -1,5 +1,7 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/phi_window.h"
+#include "desktop/forms/tree_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -19,9 +21,19 @@ std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& p
                                       parts.unload, parts.parent);
 }
 
+std::unique_ptr<FormWindow> makePhi(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<PhiWindow>(parts, dynamic_cast<builders::FormPhi&>(form));
+}
+
+std::unique_ptr<FormWindow> makeTree(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<TreeWindow>(parts, dynamic_cast<builders::FormTree&>(form));
+}
+
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
     {"FormOBJ", makeWorkshop},
+    {"FormPhi", makePhi},
+    {"FormTree", makeTree},
 };
 
 }  // namespace
