@@ -1,5 +1,6 @@
 #include "passes.h"
 
+#include "builders/transfer/graft_part.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
 #include "channels/removal/morph_removal.h"
@@ -42,6 +43,12 @@ class Bench {
     opening.DestPath = path;
     opening.LabelFileNameForEditor.setCaption(path);
     opening.LabelChannelFileNameForEditor.setCaption(path);
+    front_.setStep([this] {
+      if (steps.empty()) return false;
+      opening.FileLabel.setCaption(steps.front());
+      steps.erase(steps.begin());
+      return true;
+    });
   }
 
   headless::Answers& answers() { return front_.answers(); }
@@ -63,6 +70,7 @@ class Bench {
   workbench::Workbench workbench{front_, disk, settings, "C:\\Norvik", ""};
   front::Session& session = workbench.session();
   front::Opening& opening = session.opening;
+  std::vector<std::string> steps;  ///< the files that are picked one after the other
 };
 
 /// A pass must have done its work to count.
@@ -261,6 +269,50 @@ void makeNullFigure(Bench& bench) {
   mustHold(bench.disk.exists("C:\\figure_Null.cr2"), "no null figure");
 }
 
+/// The phi file of a figure without toes on one foot, so that one search runs to its end.
+void makePhi(Bench& bench) {
+  bench.answers().queueBox(front::Answer::yes);
+  bench.choose("figure.cr2");
+  bench.opening.MenuPhi.clicked.raise();
+  mustHold(bench.disk.exists("C:\\figure.phi"), "no phi file");
+  bench.disk.remove("C:\\figure.phi");
+}
+
+/// The figure taken for a mesh: nothing in it is a group, all of it is kept.
+void cutBranch(Bench& bench) {
+  bench.opening.LineObj.show();
+  bench.opening.LabelOBJFileName.setCaption(bench.path);
+  front::Form* form = bench.session.findForm("FormTree");
+  mustHold(form != nullptr, "no form");
+  bench.session.load(*form);
+  bench.choose("cut.obj");
+  form->find("CommandGo")->clicked.raise();
+  mustHold(bench.disk.exists("C:\\cut.obj"), "nothing cut");
+  bench.disk.remove("C:\\cut.obj");
+}
+
+void extractPart(Bench& bench) {
+  constexpr int kExtracting = 69;
+  bench.opening.Mode = kExtracting;
+  bench.opening.ListActors.add("    lToe:1 * 1");
+  bench.opening.ListActors.choose(0);
+  bench.opening.ListActors.clicked.raise();
+  mustHold(bench.opening.Mode != kExtracting, "nothing extracted");
+}
+
+/// The names are there before they are asked for, but for the change from the mesh's to another.
+void graftPart(Bench& bench) {
+  if (!bench.disk.exists("C:\\Norvik\\bp.txt")) extractPart(bench);
+  bench.opening.FileChooser.setPath("C:\\");
+  bench.opening.FileLabel.setCaption("figure.cr2");
+  bench.opening.NameLabel.setCaption("wing");
+  bench.answers().queueBox(front::Answer::no);
+  bench.steps = {"wing.obj", "figure.cr2"};
+  builders::BodyPartTransfer(bench.session);
+  mustHold(bench.disk.exists("C:\\New-figure.cr2"), "nothing grafted");
+  bench.disk.remove("C:\\New-figure.cr2");
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -305,6 +357,10 @@ const std::vector<Pass>& passes() {
            [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
       pass("SpaceChopper, every line", rewrite, blanks,
            [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
+      pass("phi file", open, plain, makePhi),
+      pass("cut of a branch", rewrite, plain, cutBranch),
+      pass("extraction of a body part", read, plain, extractPart),
+      pass("graft of a body part", rewrite, plain, graftPart),
       pass("path pass", substitution, plain, passPaths),
       pass("Save", substitution, plain, save),
       pass("copy of a morph", copy, plain, copyMorph),

@@ -2,7 +2,7 @@
 
 #include "desktop/words.h"
 
-#include <QAbstractButton>
+#include <QPushButton>
 
 namespace norvik::desktop {
 
@@ -15,6 +15,13 @@ LabelButtonBinding::LabelButtonBinding(Dispatcher& dispatcher, front::Label& lab
 void LabelButtonBinding::refresh() {
   button_.setText(shown(label_.caption()).replace(QLatin1Char('&'), QStringLiteral("&&")));
   WidgetBinding::refresh();
+}
+
+QPushButton& makeLabelButton(Maker& maker, front::Label& label, QWidget& parent) {
+  auto* button = new QPushButton(&parent);
+  button->setAutoDefault(false);
+  maker.bindings().add(std::make_unique<LabelButtonBinding>(maker.dispatcher(), label, *button));
+  return *button;
 }
 
 }  // namespace norvik::desktop

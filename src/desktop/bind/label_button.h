@@ -2,9 +2,11 @@
 // Labels that are buttons.
 
 #include "desktop/bind/widget_binding.h"
+#include "desktop/maker.h"
 #include "front/text_controls.h"
 
 class QAbstractButton;
+class QPushButton;
 
 namespace norvik::desktop {
 
@@ -20,5 +22,8 @@ class LabelButtonBinding : public WidgetBinding {
   front::Label& label_;
   QAbstractButton& button_;
 };
+
+/// A push button with a label's caption and clicks. It is not the window's default one.
+QPushButton& makeLabelButton(Maker& maker, front::Label& label, QWidget& parent);
 
 }  // namespace norvik::desktop

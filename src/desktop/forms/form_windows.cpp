@@ -2,7 +2,9 @@
 
 #include "desktop/forms/link_dialog_window.h"
 #include "desktop/forms/link_window.h"
+#include "desktop/forms/phi_window.h"
 #include "desktop/forms/ratio_window.h"
+#include "desktop/forms/tree_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -33,6 +35,8 @@ constexpr Entry kWindows[] = {
     {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
     {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
     {"FormOBJ", makeWorkshop},
+    {"FormPhi", makeLaidOut<PhiWindow, builders::FormPhi>},
+    {"FormTree", makeLaidOut<TreeWindow, builders::FormTree>},
 };
 
 }  // namespace

@@ -80,19 +80,12 @@ QWidget* makeMirror(Maker& maker, front::ListBox& list, const QString& name, QWi
   return view;
 }
 
-QPushButton& makeButton(Maker& maker, front::Label& label, QWidget& parent) {
-  auto* button = new QPushButton(&parent);
-  button->setAutoDefault(false);
-  maker.bindings().add(std::make_unique<LabelButtonBinding>(maker.dispatcher(), label, *button));
-  return *button;
-}
-
 QWidget* makeDoneRow(Maker& maker, front::Label& done, front::Label& cancel, QWidget& parent) {
   auto* box = new QDialogButtonBox(&parent);
-  QPushButton& doneButton = makeButton(maker, done, *box);
+  QPushButton& doneButton = makeLabelButton(maker, done, *box);
   doneButton.setDefault(true);
   box->addButton(&doneButton, QDialogButtonBox::AcceptRole);
-  box->addButton(&makeButton(maker, cancel, *box), QDialogButtonBox::RejectRole);
+  box->addButton(&makeLabelButton(maker, cancel, *box), QDialogButtonBox::RejectRole);
   return box;
 }
 
