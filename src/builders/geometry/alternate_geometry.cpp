@@ -84,7 +84,9 @@ class PassingFile {
 
 /// The OBJ that the operator picks, if it is one of Poser's geometries.
 std::optional<std::string> askForGeometry(front::Session& session) {
-  front::CommonDialog& dialog = session.opening.CommonDialog1;
+  // Shared with the path box, which proposes a name of its own each time.
+  front::CommonDialog& dialog = session.opening.CommonDialog4;
+  dialog.setFileName("");
   const std::string folder = session.settings.get("Startup", "PLoc", "0") + "Runtime\\Geometries";
   if (!dialog.open(session.front, folder, "Open Alternate Geometry OBJ")) return std::nullopt;
   if (!text::holds(dialog.fileName(), "Geometries")) return std::nullopt;
