@@ -100,10 +100,11 @@ bool DesktopFrontEnd::printerDialog() {
   return asker_.printer(printer());
 }
 
-void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string>& lines) {
+void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string>& lines,
+                            std::size_t headingLines) {
   QStringList page;
   for (const std::string& line : lines) page << shown(line);
-  printLines(printer(), shown(font), page);
+  printLines(printer(), shown(font), page, static_cast<int>(headingLines));
 }
 
 void DesktopFrontEnd::setHourglass(front::Form&, bool on) {

@@ -12,7 +12,7 @@ std::string shortenedPath(std::string_view path) {
   return "..." + std::string{text::rightmost(path, kShown)};
 }
 
-std::string sizeCaption(const text::Disk& disk, std::string_view path) {
+std::string sizeInBytes(const text::Disk& disk, std::string_view path) {
   return text::wholeNumberText(static_cast<std::int64_t>(disk.size(path))) + " bytes";
 }
 

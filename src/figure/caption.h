@@ -1,5 +1,5 @@
 #pragma once
-// How the pane labels show a file's path and size.
+// How files are shown on the pane labels.
 
 #include "text/disk.h"
 
@@ -12,7 +12,8 @@ namespace norvik::figure {
 /// is the "..." and the whole path; any other path as it is.
 std::string shortenedPath(std::string_view path);
 
-/// A file's size as LabelFileSize shows it: " 4812 bytes".
-std::string sizeCaption(const text::Disk& disk, std::string_view path);
+/// A file's size as LabelFileSize shows it: a blank, the number, " bytes". Throws what Disk::size
+/// throws.
+std::string sizeInBytes(const text::Disk& disk, std::string_view path);
 
 }  // namespace norvik::figure

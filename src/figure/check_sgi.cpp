@@ -1,8 +1,10 @@
 #include "figure/check_sgi.h"
 
 #include "figure/line_ending_repair.h"
+#include "text/byte_reader.h"
 #include "text/columns.h"
 #include "text/first_dot.h"
+#include "text/line_writer.h"
 
 namespace norvik::figure {
 
@@ -23,12 +25,11 @@ void convert(front::Session& session, const std::string& path, const std::string
   scratch.close();
 }
 
+/// Whatever fails, a whole figure stands under the name: while there is no backup, the original.
 void swap(text::Disk& disk, const std::string& path, const std::string& scratchPath,
           const std::string& backup) {
-  disk.adoptIdentity(scratchPath, path);
   text::ignoringErrors([&] { disk.remove(backup); });
-  text::ignoringErrors([&] { disk.rename(path, backup); });
-  text::ignoringErrors([&] { disk.rename(scratchPath, path); });
+  text::ignoringErrors([&] { disk.replaceKeeping(scratchPath, path, backup); });
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ void showFrame(front::Session& session, const std::string& path, FileKind kind) 
   opening.LabelFileSize.show();
   opening.PictureMapViewer.show();
 
-  opening.LabelFileSize.setCaption(sizeCaption(session.disk, path));
+  opening.LabelFileSize.setCaption(sizeInBytes(session.disk, path));
   opening.ListPropObj.clear();
   opening.ListPropObj.setFore(front::kListNormal);
 }
@@ -86,7 +86,8 @@ void showTools(front::Opening& opening) {
   const std::initializer_list<front::Control*> tools = {
       &opening.PictureViewChannels, &opening.PictureJoints,   &opening.PictureTrash,
       &opening.PictureEMC,          &opening.PictureEditor,   &opening.PictureChangeRatio,
-      &opening.PictureOBJView,      &opening.LabelOpenSource, &opening.LabelOpenSourceTitle};
+      &opening.PictureOBJView,      &opening.LabelOpenSource, &opening.LabelOpenSourceTitle,
+      &opening.TextForceLimits,     &opening.ListTwistRemove, &opening.ListTwistRestore};
   for (front::Control* control : tools) control->show();
 }
 

@@ -76,7 +76,9 @@ class FrontEnd {
   virtual std::optional<Colour> colourDialog(Colour initial) = 0;
   /// Whether the operator wants to print.
   virtual bool printerDialog() = 0;
-  virtual void print(std::string_view font, const std::vector<std::string>& lines) = 0;
+  /// Prints lines; the first `headingLines` of them are larger and bold.
+  virtual void print(std::string_view font, const std::vector<std::string>& lines,
+                     std::size_t headingLines) = 0;
 
   virtual void setHourglass(Form& form, bool on) = 0;
   virtual void beep() = 0;

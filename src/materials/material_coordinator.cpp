@@ -83,7 +83,7 @@ void saveResult(front::Session& session) {
   // The source pane's labels stay, so that later tools take the old file for an open source.
   opening.LabelFileName.setCaption(figure::shortenedPath(opening.DestPath));
   opening.LabelFileNameForEditor.setCaption(opening.DestPath);
-  opening.LabelFileSize.setCaption(figure::sizeCaption(session.disk, opening.DestPath));
+  opening.LabelFileSize.setCaption(figure::sizeInBytes(session.disk, opening.DestPath));
 }
 
 }  // namespace

@@ -1,0 +1,15 @@
+#pragma once
+// The colours of a MAT file: what a material has, and what it gets.
+
+#include "front/session.h"
+#include "pose/form_pz2.h"
+
+namespace norvik::pose {
+
+/// Hangs the picking on ListMaterialsMAT. A click shows the material's colour in ShapePresentColor;
+/// a right click asks for a new one, which goes into ListMATColors; a double click chooses the
+/// material, and leaves its colour where it is: colours set later land on another material. A click
+/// on LabelChangeColor or Frame1 tells the operator so.
+void wireMatColours(front::Session& session, FormPZ2& form);
+
+}  // namespace norvik::pose
