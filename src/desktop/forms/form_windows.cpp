@@ -1,5 +1,6 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/material_coordinator_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -19,8 +20,15 @@ std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& p
                                       parts.unload, parts.parent);
 }
 
+std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<MaterialCoordinatorWindow>(parts.maker, parts.session,
+                                                     dynamic_cast<materials::FormMatCoord&>(form),
+                                                     parts.unload, parts.parent);
+}
+
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
+    {"FormMatCoord", makeCoordinator},
     {"FormOBJ", makeWorkshop},
 };
 
