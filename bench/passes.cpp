@@ -15,6 +15,8 @@
 #include "figure/space_chopper.h"
 #include "headless/script_front_end.h"
 #include "host.h"
+#include "materials/colour_pass.h"
+#include "materials/coordinator_passes.h"
 #include "text/line_reader.h"
 #include "workbench/workbench.h"
 
@@ -133,6 +135,26 @@ void copyMorph(Bench& bench) {
   mustHold(bench.disk.exists("C:\\copied.cr2"), "nothing copied");
 }
 
+void changeColour(Bench& bench) {
+  const auto position = materials::findMaterial(bench.disk, bench.path, "skin");
+  mustHold(position.has_value(), "no skin");
+  materials::writeColour(bench.disk, bench.path, "C:\\recoloured.cr2", "KdColor", 0, *position);
+}
+
+void addGeometry(Bench& bench) {
+  bench.opening.ListAltGeomActors.add("    lToe:1 * 1");
+  bench.opening.ListAltGeomActors.choose(0);
+  bench.choose("Runtime\\Geometries\\Tilda\\fist.obj");
+  bench.opening.ListAltGeomActors.clicked.raise();
+  mustHold(bench.disk.exists("C:\\Norvik\\AltGeom.cr2"), "no geometry added");
+}
+
+void takeFigureOut(Bench& bench) {
+  bench.choose("taken-out.cr2");
+  bench.opening.MenuPZ3Cr2Conv.clicked.raise();
+  mustHold(bench.disk.exists("C:\\taken-out.cr2"), "nothing taken out");
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -180,6 +202,17 @@ const std::vector<Pass>& passes() {
       pass("path pass", substitution, plain, passPaths),
       pass("Save", substitution, plain, save),
       pass("copy of a morph", copy, plain, copyMorph),
+      pass("colour of a material", rewrite, plain, changeColour),
+      pass("removal of materials", rewrite, plain,
+           [](Bench& bench) {
+             materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
+           }),
+      pass("addition of materials", rewrite, plain,
+           [](Bench& bench) {
+             materials::addMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"});
+           }),
+      pass("alternate geometry", rewrite, plain, addGeometry),
+      pass("figure out of a scene", rewrite, plain, takeFigureOut),
       pass("open", open, plain, openWhole)};
   return all;
 }
