@@ -9,19 +9,23 @@ namespace norvik::desktop {
 
 bool MarkedItems::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                             const QStyleOptionViewItem& option, const QModelIndex& index) {
-  const Mark mark = index.isValid() ? markOf_(index.row()) : Mark{};
-  if (event->type() != QEvent::ToolTip || mark.reason.isEmpty()) {
-    return QStyledItemDelegate::helpEvent(event, view, option, index);
-  }
-  QToolTip::showText(event->globalPos(), mark.reason);
+  const bool asked = event->type() == QEvent::ToolTip && index.isValid();
+  const QString reason = asked ? reason_(index.row()) : QString();
+  if (reason.isEmpty()) return QStyledItemDelegate::helpEvent(event, view, option, index);
+  QToolTip::showText(event->globalPos(), reason);
   return true;
+}
+
+QSize MarkedItems::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  constexpr int kAir = 5;  // as between the rows of the other lists
+  return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kAir);
 }
 
 void MarkedItems::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  const Mark mark = markOf_(index.row());
-  if (mark.words.isEmpty()) return;
-  option->text += QStringLiteral("  (") + mark.words + QLatin1Char(')');
+  const QString words = words_ ? words_(index.row()) : QString();
+  if (words.isEmpty()) return;
+  option->text += QStringLiteral("  (") + words + QLatin1Char(')');
   option->font.setItalic(true);
   option->features |= QStyleOptionViewItem::HasDecoration;
   option->icon = QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning);

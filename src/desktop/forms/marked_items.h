@@ -7,29 +7,26 @@
 
 namespace norvik::desktop {
 
-/// A few words behind an item, and the reason in full as its tool tip. Both empty for an item that
-/// is as it should be.
-struct Mark {
-  QString words;
-  QString reason;
-};
-
-/// Draws the items of a list with their marks.
+/// Draws the items of a list, some with a few words behind them, and tells more of an item as its
+/// tool tip. Both texts are empty for an item of which there is nothing to say.
 class MarkedItems : public QStyledItemDelegate {
  public:
-  using MarkOf = std::function<Mark(int row)>;
+  using TextOf = std::function<QString(int row)>;
 
-  MarkedItems(MarkOf markOf, QObject* parent)
-      : QStyledItemDelegate(parent), markOf_(std::move(markOf)) {}
+  /// Without `words` no item is marked.
+  MarkedItems(TextOf words, TextOf reason, QObject* parent)
+      : QStyledItemDelegate(parent), words_(std::move(words)), reason_(std::move(reason)) {}
 
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
  private:
-  MarkOf markOf_;
+  TextOf words_;
+  TextOf reason_;
 };
 
 }  // namespace norvik::desktop

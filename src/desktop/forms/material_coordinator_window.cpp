@@ -1,6 +1,7 @@
 #include "desktop/forms/material_coordinator_window.h"
 
 #include "desktop/elided_label.h"
+#include "desktop/forms/marked_items.h"
 #include "desktop/window/headings.h"
 #include "desktop/words.h"
 #include "materials/coordination_outcome.h"
@@ -28,7 +29,7 @@ void copyItems(const front::ListBox& list) {
 MaterialCoordinatorWindow::MaterialCoordinatorWindow(Maker& maker, front::Session& session,
                                                      materials::FormMatCoord& form,
                                                      std::function<void()> unload, QWidget* parent)
-    : FormWindow(maker, form, std::move(unload), parent), coordination_(form) {
+    : FormWindow(maker, form, std::move(unload), parent) {
   auto* column = new QVBoxLayout(this);
   auto* path = new ElidedLabel(this);
   path->setAccessibleName(QStringLiteral("OBJ file"));
@@ -40,12 +41,20 @@ MaterialCoordinatorWindow::MaterialCoordinatorWindow(Maker& maker, front::Sessio
   auto* lists = new QSplitter(Qt::Horizontal, this);
   lists->setObjectName(QStringLiteral("CoordinatedLists"));
   lists->setChildrenCollapsible(false);
-  lists->addWidget(makeColumn(form.LabelCR2Mat, form.ListCR2Mat,
-                              [this](int row) { return markOfRemoved(row); }));
   lists->addWidget(
-      makeColumn(form.LabelMatsNotInCR2, form.ListMatsNotInCR2, [](int) { return Mark{}; }));
-  lists->addWidget(
-      makeColumn(form.LabelOBJMat, form.ListOBJMat, [this](int row) { return markOfUsed(row); }));
+      makeColumn(form.LabelCR2Mat, form.ListCR2Mat,
+                 {[&form](int row) { return materials::stayedInFigure(form.ListCR2Mat.item(row)); },
+                  QStringLiteral("still there"),
+                  QStringLiteral("This material stays in the figure: lines with \"Material\" in "
+                                 "them are never tested.")}));
+  lists->addWidget(makeColumn(form.LabelMatsNotInCR2, form.ListMatsNotInCR2, {}));
+  lists->addWidget(makeColumn(
+      form.LabelOBJMat, form.ListOBJMat,
+      {[&form](int row) { return materials::wentAlong(form, form.ListOBJMat.item(row)); },
+       QStringLiteral("removed too"),
+       QStringLiteral("The OBJ uses this material, but its name ends like that of a "
+                      "removed one, and so it went along. Coordinate the saved figure "
+                      "again to get it back as a plain one.")}));
   column->addWidget(lists, 1);
 
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -57,7 +66,7 @@ MaterialCoordinatorWindow::MaterialCoordinatorWindow(Maker& maker, front::Sessio
 }
 
 QWidget* MaterialCoordinatorWindow::makeColumn(front::Label& heading, front::ListBox& list,
-                                               MarkedItems::MarkOf markOf) {
+                                               const Marks& marks) {
   auto* side = new QWidget(this);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
@@ -67,7 +76,12 @@ QWidget* MaterialCoordinatorWindow::makeColumn(front::Label& heading, front::Lis
   column->addWidget(&title);
   auto& view = maker().list(list, *side);
   view.setAccessibleName(shown(heading.caption()));
-  view.setItemDelegate(new MarkedItems(std::move(markOf), &view));
+  if (marks.isMarked) {
+    const auto textOf = [marked = marks.isMarked](const QString& text) {
+      return [marked, text](int row) { return marked(row) ? text : QString(); };
+    };
+    view.setItemDelegate(new MarkedItems(textOf(marks.words), textOf(marks.reason), &view));
+  }
   column->addWidget(&view, 1);
 
   auto* foot = new QHBoxLayout;
@@ -85,22 +99,6 @@ QWidget* MaterialCoordinatorWindow::makeColumn(front::Label& heading, front::Lis
     copy->setEnabled(list.count() > 0);
   });
   return side;
-}
-
-Mark MaterialCoordinatorWindow::markOfRemoved(int row) const {
-  if (!materials::stayedInFigure(coordination_.ListCR2Mat.item(row))) return {};
-  return {QStringLiteral("still there"),
-          QStringLiteral("This material stays in the figure: lines with \"Material\" in them are "
-                         "never tested.")};
-}
-
-Mark MaterialCoordinatorWindow::markOfUsed(int row) const {
-  if (!materials::wentAlong(coordination_, coordination_.ListOBJMat.item(row))) return {};
-  return {
-      QStringLiteral("removed too"),
-      QStringLiteral("The OBJ uses this material, but its name ends like that of a removed one, "
-                     "and so it went along. Coordinate the saved figure again to get it back as "
-                     "a plain one.")};
 }
 
 }  // namespace norvik::desktop

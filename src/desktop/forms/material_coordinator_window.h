@@ -1,12 +1,9 @@
 #pragma once
 // The material coordinator's findings in a window.
 
-#include "desktop/forms/marked_items.h"
 #include "desktop/window/form_window.h"
 #include "front/session.h"
 #include "materials/form_mat_coord.h"
-
-class QLabel;
 
 namespace norvik::desktop {
 
@@ -18,11 +15,13 @@ class MaterialCoordinatorWindow : public FormWindow {
                             std::function<void()> unload, QWidget* parent);
 
  private:
-  QWidget* makeColumn(front::Label& heading, front::ListBox& list, MarkedItems::MarkOf markOf);
-  Mark markOfRemoved(int row) const;
-  Mark markOfUsed(int row) const;
-
-  materials::FormMatCoord& coordination_;
+  /// `words` and `reason` are what is said of a row that `isMarked` marks.
+  struct Marks {
+    std::function<bool(int row)> isMarked;
+    QString words;
+    QString reason;
+  };
+  QWidget* makeColumn(front::Label& heading, front::ListBox& list, const Marks& marks);
 };
 
 }  // namespace norvik::desktop
