@@ -10,7 +10,7 @@ namespace norvik::desktop {
 bool MarkedItems::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                             const QStyleOptionViewItem& option, const QModelIndex& index) {
   const bool asked = event->type() == QEvent::ToolTip && index.isValid();
-  const QString reason = asked ? reason_(index.row()) : QString();
+  const QString reason = asked ? reason_(index) : QString();
   if (reason.isEmpty()) return QStyledItemDelegate::helpEvent(event, view, option, index);
   QToolTip::showText(event->globalPos(), reason);
   return true;
@@ -23,7 +23,7 @@ QSize MarkedItems::sizeHint(const QStyleOptionViewItem& option, const QModelInde
 
 void MarkedItems::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
   QStyledItemDelegate::initStyleOption(option, index);
-  const QString words = words_ ? words_(index.row()) : QString();
+  const QString words = words_ ? words_(index) : QString();
   if (words.isEmpty()) return;
   option->text += QStringLiteral("  (") + words + QLatin1Char(')');
   option->font.setItalic(true);

@@ -11,7 +11,7 @@ namespace norvik::desktop {
 /// tool tip. Both texts are empty for an item of which there is nothing to say.
 class MarkedItems : public QStyledItemDelegate {
  public:
-  using TextOf = std::function<QString(int row)>;
+  using TextOf = std::function<QString(const QModelIndex& index)>;
 
   /// Without `words` no item is marked.
   MarkedItems(TextOf words, TextOf reason, QObject* parent)

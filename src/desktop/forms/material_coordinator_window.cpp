@@ -78,7 +78,9 @@ QWidget* MaterialCoordinatorWindow::makeColumn(front::Label& heading, front::Lis
   view.setAccessibleName(shown(heading.caption()));
   if (marks.isMarked) {
     const auto textOf = [marked = marks.isMarked](const QString& text) {
-      return [marked, text](int row) { return marked(row) ? text : QString(); };
+      return [marked, text](const QModelIndex& index) {
+        return marked(index.row()) ? text : QString();
+      };
     };
     view.setItemDelegate(new MarkedItems(textOf(marks.words), textOf(marks.reason), &view));
   }

@@ -44,10 +44,11 @@ void hintAtCameras(const MenuTree& menus, front::Session& session) {
 }
 
 void hintAtGeometries(ListView& view, front::Session& session) {
-  const front::ListBox& list = session.opening.ListAltGeomActors;
-  view.setItemDelegate(new MarkedItems(
-      nullptr, [&session, &list](int row) { return geometriesOf(session, list.item(row)); },
-      &view));
+  // By the item's words, since a list may show some of its items alone.
+  const auto geometries = [&session](const QModelIndex& index) {
+    return geometriesOf(session, typed(index.data().toString()));
+  };
+  view.setItemDelegate(new MarkedItems(nullptr, geometries, &view));
 }
 
 }  // namespace norvik::desktop
