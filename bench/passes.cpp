@@ -22,6 +22,8 @@
 #include "figure/space_chopper.h"
 #include "headless/script_front_end.h"
 #include "host.h"
+#include "materials/colour_pass.h"
+#include "materials/coordinator_passes.h"
 #include "text/line_reader.h"
 #include "workbench/workbench.h"
 
@@ -313,6 +315,26 @@ void graftPart(Bench& bench) {
   bench.disk.remove("C:\\New-figure.cr2");
 }
 
+void changeColour(Bench& bench) {
+  const auto position = materials::findMaterial(bench.disk, bench.path, "skin");
+  mustHold(position.has_value(), "no skin");
+  materials::writeColour(bench.disk, bench.path, "C:\\recoloured.cr2", "KdColor", 0, *position);
+}
+
+void addGeometry(Bench& bench) {
+  bench.opening.ListAltGeomActors.add("    lToe:1 * 1");
+  bench.opening.ListAltGeomActors.choose(0);
+  bench.choose("Runtime\\Geometries\\Tilda\\fist.obj");
+  bench.opening.ListAltGeomActors.clicked.raise();
+  mustHold(bench.disk.exists("C:\\Norvik\\AltGeom.cr2"), "no geometry added");
+}
+
+void takeFigureOut(Bench& bench) {
+  bench.choose("taken-out.cr2");
+  bench.opening.MenuPZ3Cr2Conv.clicked.raise();
+  mustHold(bench.disk.exists("C:\\taken-out.cr2"), "nothing taken out");
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -379,7 +401,16 @@ const std::vector<Pass>& passes() {
       pass("link", rewrite, plain, writeLink),
       pass("list of links", read, plain, listLinks),
       pass("ratio", rewrite, plain, changeRatio),
-      pass("null figure", rewrite, plain, makeNullFigure)};
+      pass("null figure", rewrite, plain, makeNullFigure),
+      pass("colour of a material", rewrite, plain, changeColour),
+      pass("removal of materials", rewrite, plain,
+           [](Bench& bench) {
+             materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
+           }),
+      pass("addition of materials", rewrite, plain,
+             materials::addMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"});
+      pass("alternate geometry", rewrite, plain, addGeometry),
+      pass("figure out of a scene", rewrite, plain, takeFigureOut)};
   return all;
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/forms/link_dialog_window.h"
 #include "desktop/forms/link_window.h"
+#include "desktop/forms/material_coordinator_window.h"
 #include "desktop/forms/phi_window.h"
 #include "desktop/forms/ratio_window.h"
 #include "desktop/forms/tree_window.h"
@@ -29,11 +30,18 @@ std::unique_ptr<FormWindow> makeLaidOut(front::Form& form, const WindowParts& pa
   return std::make_unique<Window>(parts, dynamic_cast<Form&>(form));
 }
 
+std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<MaterialCoordinatorWindow>(parts.maker, parts.session,
+                                                     dynamic_cast<materials::FormMatCoord&>(form),
+                                                     parts.unload, parts.parent);
+}
+
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
     {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
     {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
     {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
+    {"FormMatCoord", makeCoordinator},
     {"FormOBJ", makeWorkshop},
     {"FormPhi", makeLaidOut<PhiWindow, builders::FormPhi>},
     {"FormTree", makeLaidOut<TreeWindow, builders::FormTree>},

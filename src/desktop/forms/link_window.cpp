@@ -1,5 +1,6 @@
 #include "desktop/forms/link_window.h"
 
+#include "desktop/bind/label_button.h"
 #include "desktop/forms/filter_line.h"
 #include "desktop/forms/pose_parts.h"
 #include "desktop/window/headings.h"
@@ -81,8 +82,8 @@ LinkWindow::LinkWindow(const WindowParts& parts, erc::FormECM& form)
   auto* foot = new QHBoxLayout;
   foot->addWidget(&maker().label(form.LabelWait, *this));
   foot->addStretch(1);
-  foot->addWidget(&makeButton(maker(), form.LabelDone, *this));
-  foot->addWidget(&makeButton(maker(), form.LabelCancel, *this));
+  foot->addWidget(&makeLabelButton(maker(), form.LabelDone, *this));
+  foot->addWidget(&makeLabelButton(maker(), form.LabelCancel, *this));
   column->addLayout(foot);
   resize(kWidth, kHeight);
 }

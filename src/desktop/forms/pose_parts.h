@@ -37,9 +37,6 @@ class NotedRows : public QStyledItemDelegate {
 /// Shows the items of a list that no one can reach, for reading.
 QWidget* makeMirror(Maker& maker, front::ListBox& list, const QString& name, QWidget& parent);
 
-/// A label that is clicked, as a push button.
-QPushButton& makeButton(Maker& maker, front::Label& label, QWidget& parent);
-
 /// The row of buttons at the foot of a window, the first one its default.
 QWidget* makeDoneRow(Maker& maker, front::Label& done, front::Label& cancel, QWidget& parent);
 

@@ -10,6 +10,7 @@
 #include "desktop/window/recent_menu.h"
 #include "desktop/window/rename_row.h"
 #include "desktop/window/splash_page.h"
+#include "desktop/window/tool_hints.h"
 #include "desktop/window/tool_strip.h"
 #include "desktop/window/view_menu.h"
 #include "desktop/words.h"
@@ -60,6 +61,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::makeMenus() {
   menus_ = std::make_unique<MenuTree>(maker_.dispatcher(), maker_.bindings(), opening_, *menuBar());
   addRecentMenu(*menus_, maker_.dispatcher(), opening_);
+  hintAtCameras(*menus_, session_);
   menus_->action(opening_.MenuFileOpen)->setShortcut(QKeySequence::Open);
   menus_->action(opening_.MenuFileSave)->setShortcut(QKeySequence::Save);
   menus_->action(opening_.MenuFileSaveAs)
@@ -95,6 +97,7 @@ void MainWindow::makeCentre() {
   panes->setObjectName(QStringLiteral("Panes"));
   panes->setChildrenCollapsible(false);
   panes->addWidget(makeDestinationPane(maker_, opening_, *panes));
+  hintAtGeometries(*panes->findChild<ListView*>(QStringLiteral("ListAltGeomActors")), session_);
   sourcePane_ = makeSourcePane(maker_, opening_, *panes);
   panes->addWidget(sourcePane_);
   panes->setSizes({560, 480});
