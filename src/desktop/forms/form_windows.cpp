@@ -1,5 +1,8 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/mor_window.h"
+#include "desktop/forms/pose_window.h"
+#include "desktop/forms/weld_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -19,9 +22,17 @@ std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& p
                                       parts.unload, parts.parent);
 }
 
+template <typename Window, typename Form>
+std::unique_ptr<FormWindow> makeLaidOut(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<Window>(parts, dynamic_cast<Form&>(form));
+}
+
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
     {"FormOBJ", makeWorkshop},
+    {"FormPZ2", makeLaidOut<PoseWindow, pose::FormPZ2>},
+    {"FormMOR", makeLaidOut<MorWindow, pose::FormMOR>},
+    {"FormPZ2Combine", makeLaidOut<WeldWindow, pose::FormPZ2Combine>},
 };
 
 }  // namespace

@@ -1,0 +1,110 @@
+#include "desktop/forms/weld_window.h"
+
+#include "desktop/forms/pose_parts.h"
+#include "desktop/window/headings.h"
+#include "desktop/words.h"
+#include "text/columns.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace norvik::desktop {
+
+namespace {
+
+constexpr int kWidth = 760;
+constexpr int kHeight = 560;
+constexpr int kFewRows = 110;
+
+/// The last number of a key line, which is the morph's value.
+std::string_view valueOf(std::string_view keyLine) {
+  const auto end = keyLine.find_last_not_of(" \t");
+  if (end == std::string_view::npos) return {};
+  keyLine = keyLine.substr(0, end + 1);
+  return keyLine.substr(keyLine.find_last_of(" \t") + 1);
+}
+
+/// The value that the first pose has for a morph; nothing if it has none of that name.
+std::string_view firstValue(const pose::FormPZ2Combine& form, std::string_view name) {
+  for (int i = 0; i < form.ListFile1.count(); ++i) {
+    if (form.ListFile1.item(i) == name) return valueOf(form.ListKeyLinesFirst.item(i));
+  }
+  return {};
+}
+
+}  // namespace
+
+WeldWindow::WeldWindow(const WindowParts& parts, pose::FormPZ2Combine& form)
+    : FormWindow(parts.maker, form, parts.unload, parts.parent), form_(form) {
+  auto* column = new QVBoxLayout(this);
+  column->setSpacing(kPaneMargin);
+  auto* sides = new QHBoxLayout;
+  sides->setSpacing(2 * kPaneMargin);
+  sides->addLayout(makeFirst(), 1);
+  sides->addLayout(makeSecond(), 1);
+  column->addLayout(sides, 1);
+  addMissing(*column);
+  column->addWidget(makeDoneRow(maker(), form.LabelDone, form.LabelCancel, *this));
+  resize(kWidth, kHeight);
+}
+
+QLayout* WeldWindow::makeFirst() {
+  auto* side = new QVBoxLayout;
+  auto* head = new QLabel(QStringLiteral("Receives"), this);
+  side->addWidget(head);
+  QLabel& file = maker().pathLabel(form_.LabelFileFirst, *this);
+  makeFileHeading(file, QStringLiteral("File that receives"));
+  side->addWidget(&file);
+  ListView& morphs = maker().list(form_.ListFile1, *this);
+  const front::ListBox& keys = form_.ListKeyLinesFirst;
+  morphs.setItemDelegate(
+      new NotedRows({.chip = {},
+                     .note = [&keys](int row) { return shown(valueOf(keys.item(row))); },
+                     .marked = {}},
+                    &morphs));
+  side->addLayout(makeColumn(QStringLiteral("Morphs"), &morphs), 1);
+  side->addWidget(&maker().label(form_.LabelKey1, *this));
+  return side;
+}
+
+QLayout* WeldWindow::makeSecond() {
+  auto* side = new QVBoxLayout;
+  auto* head = new QHBoxLayout;
+  head->addWidget(new QLabel(QStringLiteral("Gives"), this), 1);
+  head->addWidget(&makeButton(maker(), form_.LabelOpenSecond, *this));
+  side->addLayout(head);
+  QLabel& file = maker().pathLabel(form_.LabelFileSecond, *this);
+  makeFileHeading(file, QStringLiteral("File that gives"));
+  side->addWidget(&file);
+  ListView& morphs = maker().list(form_.ListFile2, *this);
+  // Each click turns one over: settings are checked off one by one.
+  morphs.setSelectionMode(QAbstractItemView::MultiSelection);
+  const auto value = [this](int row) { return valueOf(form_.ListKeyLines.item(row)); };
+  morphs.setItemDelegate(new NotedRows({.chip = {},
+                                        .note = [value](int row) { return shown(value(row)); },
+                                        .marked =
+                                            [this, value](int row) {
+                                              return firstValue(form_, form_.ListFile2.item(row)) !=
+                                                     value(row);
+                                            }},
+                                       &morphs));
+  side->addLayout(makeColumn(QStringLiteral("Settings to carry over"), &morphs), 1);
+  side->addWidget(&maker().label(form_.LabelKey2, *this));
+  return side;
+}
+
+void WeldWindow::addMissing(QLayout& column) {
+  auto* heading =
+      new QLabel(QStringLiteral("Inserted, though the first file does not have them"), this);
+  makeHeading(*heading);
+  ListView& missing = maker().list(form_.ListNotFound, *this);
+  missing.setMaximumHeight(kFewRows);
+  heading->setBuddy(&missing);
+  column.addWidget(heading);
+  column.addWidget(&missing);
+  maker().showWhileAny(*heading, {&form_.ListNotFound});
+}
+
+}  // namespace norvik::desktop
