@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string_view>
 #include <utility>
 
 namespace norvik::desktop {
@@ -21,12 +22,15 @@ class Dispatcher {
   /// Whether what happens now is delivered.
   bool open() const { return open_ && session_ != nullptr; }
 
-  /// Runs a handler through the session; false if a running one keeps the door shut.
-  bool run(const std::function<void()>& handler);
+  /// Runs a handler through the session; false if a running one keeps the door shut. The trigger is
+  /// the name of what set it off.
+  bool run(std::string_view trigger, const std::function<void()>& handler);
+  bool run(const std::function<void()>& handler) { return run({}, handler); }
 
   template <typename... Args, typename... Values>
   bool raise(const front::Event<Args...>& event, Values&&... values) {
-    return run([&] { event.raise(values...); });
+    return run(session_ == nullptr ? std::string{} : session_->nameOf(event),
+               [&] { event.raise(values...); });
   }
 
   /// Brings the window in step with the controls.

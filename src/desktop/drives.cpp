@@ -1,5 +1,7 @@
 #include "desktop/drives.h"
 
+#include "text/columns.h"
+
 #include <cstdlib>
 #include <filesystem>
 
@@ -62,10 +64,16 @@ std::string settingsFileOf(const Options& options) {
   return file.string();
 }
 
-std::string systemPathOf(const text::Disk& disk, const std::string& hostPath) {
+bool isSystemPath(const text::Disk& disk, std::string_view path) {
+  const bool formed = path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/');
+  return formed && disk.hasDrive(path[0]);
+}
+
+std::string systemPathOf(const text::Disk& disk, const std::string& path) {
+  if (isSystemPath(disk, path)) return text::replaced(path, '/', '\\');
   std::error_code error;
-  const auto whole = fs::absolute(hostPath, error).lexically_normal();
-  return error ? hostPath : disk.systemPath(whole.string()).value_or(hostPath);
+  const auto whole = fs::absolute(path, error).lexically_normal();
+  return error ? path : disk.systemPath(whole.string()).value_or(path);
 }
 
 }  // namespace norvik::desktop

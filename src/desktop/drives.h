@@ -20,8 +20,11 @@ std::string programFolderOf(const Options& options);
 /// The settings file, with its folder made.
 std::string settingsFileOf(const Options& options);
 
-/// The system path of a host path that may begin in the current folder; the path as it stands when
-/// no drive holds it.
-std::string systemPathOf(const text::Disk& disk, const std::string& hostPath);
+/// Whether a path begins with a drive that there is and a backslash or slash.
+bool isSystemPath(const text::Disk& disk, std::string_view path);
+
+/// The system path of a path of either kind: a system path as it is, a host path, which may begin
+/// in the current folder, by the drive that holds it, or as it stands when no drive does.
+std::string systemPathOf(const text::Disk& disk, const std::string& path);
 
 }  // namespace norvik::desktop

@@ -7,7 +7,8 @@ namespace norvik::desktop {
 const char* const kHelp =
     "norvik - a workbench for Poser figure files\n"
     "\n"
-    "Usage: norvik [options] [PATH]            PATH is a figure, scene or mesh to open\n"
+    "Usage: norvik [options] [PATH]            PATH is a figure, scene or mesh to open,\n"
+    "                                         named as here or as on its drives: C:\\Poser\\...\n"
     "\n"
     "  --drive L=FOLDER   the host folder that stands for drive L:; may be repeated\n"
     "                     (Z: is /, C: the drive C of a Wine prefix, if there is one)\n"

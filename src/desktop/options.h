@@ -12,7 +12,7 @@ struct Options {
   std::vector<workbench::Drive> drives;  ///< folders without ".."
   std::string program;                   ///< the program folder, a system path
   std::string settings;                  ///< a host file
-  std::string file;                      ///< a host path to open at the start
+  std::string file;                      ///< to open at the start, a path of either kind
 };
 
 /// Reads the arguments behind the program's name. Throws workbench::BadOption.

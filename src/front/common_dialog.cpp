@@ -8,13 +8,14 @@ std::string_view CommonDialog::fileTitle() const {
   return text::fileTitle(fileName_);
 }
 
-bool CommonDialog::open(FrontEnd& front, std::string_view folder) {
-  return show(front, FileDialog::Kind::open, "Open", folder);
+bool CommonDialog::open(FrontEnd& front, std::string_view folder, std::string_view title) {
+  return show(front, FileDialog::Kind::open, title, folder);
 }
 
-bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed) {
+bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed,
+                        std::string_view title) {
   fileName_ = proposed;
-  return show(front, FileDialog::Kind::save, "Save As", folder);
+  return show(front, FileDialog::Kind::save, title, folder);
 }
 
 bool CommonDialog::show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,

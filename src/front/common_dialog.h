@@ -22,9 +22,10 @@ class CommonDialog {
 
   /// Shows the dialog for opening, in a folder, with its last file name. Whether it was accepted;
   /// after a cancel the file name is what it was.
-  bool open(FrontEnd& front, std::string_view folder);
+  bool open(FrontEnd& front, std::string_view folder, std::string_view title = "Open");
   /// Shows it for saving, with a proposed name.
-  bool save(FrontEnd& front, std::string_view folder, std::string_view proposed);
+  bool save(FrontEnd& front, std::string_view folder, std::string_view proposed,
+            std::string_view title = "Save As");
 
  private:
   bool show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
