@@ -15,6 +15,12 @@
 #include "figure/space_chopper.h"
 #include "headless/script_front_end.h"
 #include "host.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_lister.h"
+#include "pose/mor_skeleton.h"
+#include "pose/part_lister.h"
+#include "pose/pose_builder.h"
+#include "pose/weld_merge.h"
 #include "text/line_reader.h"
 #include "workbench/workbench.h"
 
@@ -133,6 +139,52 @@ void copyMorph(Bench& bench) {
   mustHold(bench.disk.exists("C:\\copied.cr2"), "nothing copied");
 }
 
+template <typename Form>
+Form& formNamed(Bench& bench, std::string_view name) {
+  auto& form = dynamic_cast<Form&>(*bench.session.findForm(name));
+  form.setLoaded(true);
+  return form;
+}
+
+pose::FormPZ2& poseForm(Bench& bench) {
+  auto& form = formNamed<pose::FormPZ2>(bench, "FormPZ2");
+  form.path = bench.path;
+  return form;
+}
+
+/// A pose of all parts is about as large as the figure.
+void buildPose(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  pose::ListTheActorsPZ2(bench.session, form);
+  mustHold(form.ListActorsPZ2.count() > 0, "no parts");
+  for (const std::string& part : form.ListActorsPZ2.items()) form.ListActorsWanted.add(part);
+  pose::buildPose(bench.session, form);
+  mustHold(bench.disk.exists("C:\\figureNew.pz2"), "no pose");
+}
+
+void buildMat(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  pose::ListMaterialsMATPZ2(bench.session, form);
+  mustHold(form.ListMaterialsMAT.count() > 0, "no materials");
+  form.CheckAllMat.setValue(true);
+  bench.choose("mat.pz2");
+  pose::MakeMat(bench.session, form);
+  mustHold(bench.disk.exists("C:\\mat.pz2"), "no MAT file");
+}
+
+void writeSkeleton(Bench& bench) {
+  auto& form = formNamed<pose::FormMOR>(bench, "FormMOR");
+  pose::writeMorSkeleton(bench.session, form);
+  mustHold(form.ListMorphs.count() > 0, "no morphs");
+}
+
+void mergePoses(Bench& bench) {
+  auto& form = formNamed<pose::FormPZ2Combine>(bench, "FormPZ2Combine");
+  form.LabelFileFirst.setCaption(bench.path);
+  pose::mergePoses(bench.session, form);
+  mustHold(form.ListActors1.count() > 0, "no morphs");
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -180,6 +232,10 @@ const std::vector<Pass>& passes() {
       pass("path pass", substitution, plain, passPaths),
       pass("Save", substitution, plain, save),
       pass("copy of a morph", copy, plain, copyMorph),
+      pass("pose, list and copy of all parts", rewrite, plain, buildPose),
+      pass("MAT file, lists and copy", rewrite, plain, buildMat),
+      pass("MOR skeleton", read, plain, writeSkeleton),
+      pass("weld, the pose that receives", rewrite, plain, mergePoses),
       pass("open", open, plain, openWhole)};
   return all;
 }
