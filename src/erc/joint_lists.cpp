@@ -62,7 +62,7 @@ class AxisScan {
   }
 
   void enterActor(std::string_view field) {
-    actor_ = figure::actorName(field);
+    actor_ = figure::nameOnActorLine(field);
     taken_ = !figure_ || figure::sameFigure(figure::figureNumber(field), *figure_);
     actor_ += ' ';
   }

@@ -25,7 +25,7 @@ inline std::string_view morphName(std::string_view field) {
 }
 
 /// The name on an actor line: "actor rThigh:1".
-inline std::string_view actorName(std::string_view line) {
+inline std::string_view nameOnActorLine(std::string_view line) {
   constexpr std::size_t kNameColumn = 7;
   return text::from(line, kNameColumn);
 }

@@ -61,7 +61,7 @@ class FigureReference {
     seen_.insert(line);
     copied_ = false;
     text::LineWriter& out = pass_.out();
-    const auto name = text::before(figure::actorName(line), ":");
+    const auto name = text::before(figure::nameOnActorLine(line), ":");
     out.line(line);
     out.line("\t{");
     if (name != "BODY") {
