@@ -8,6 +8,7 @@
 // DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
 #include "desktop/operator.h"
+#include "desktop/pose_pictures.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
 
@@ -157,6 +158,11 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"mesh-dark"_s);
   chooseTheme(program, u"light"_s);
   takeWorkshopPictures(program, hand, camera);
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+  desktop::takePosePictures(
+      hand, drive,
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }

@@ -3,6 +3,7 @@
 #include "desktop/forms/pose_parts.h"
 #include "desktop/theme.h"
 #include "desktop/window/headings.h"
+#include "desktop/words.h"
 #include "pose/mat_colours.h"
 
 #include <QCheckBox>
@@ -21,6 +22,23 @@ constexpr int kWidth = 640;
 constexpr int kHeight = 560;
 constexpr int kChipWidth = 64;
 constexpr int kChipHeight = 22;
+
+/// A frame that takes clicks on what lies in it, too.
+class ClickedFrameBinding : public WidgetBinding {
+ public:
+  ClickedFrameBinding(Dispatcher& dispatcher, front::Frame& frame, QGroupBox& group)
+      : WidgetBinding(dispatcher, frame, group), frame_(frame), group_(group) {}
+
+ protected:
+  void refresh() override {
+    group_.setTitle(shown(frame_.caption()));
+    WidgetBinding::refresh();
+  }
+
+ private:
+  front::Frame& frame_;
+  QGroupBox& group_;
+};
 
 /// A field that is painted in a shape's colour, with its name beside it.
 void addChip(Maker& maker, front::Label& name, front::Shape& shape, QWidget& parent,
@@ -62,6 +80,16 @@ void PoseWindow::sync() {
   if (pose_ == nullptr || mat_ == nullptr) return;
   pose_->setVisible(!form_.matMode());
   mat_->setVisible(form_.matMode());
+}
+
+/// The keys go to the list that is worked on.
+void PoseWindow::showEvent(QShowEvent* event) {
+  FormWindow::showEvent(event);
+  sync();
+  const front::Control& list =
+      form_.matMode() ? static_cast<front::Control&>(form_.ListMaterialsMAT) : form_.ListActorsPZ2;
+  auto* view = findChild<QWidget*>(QString::fromStdString(list.name()));
+  if (view != nullptr) view->setFocus();
 }
 
 QWidget* PoseWindow::makeHead() {
@@ -132,18 +160,20 @@ QWidget* PoseWindow::makeBoxes(QWidget& parent) {
 }
 
 QWidget* PoseWindow::makeColours(QWidget& parent) {
-  QGroupBox& frame = maker().frame(form_.Frame1, parent);
-  auto* column = new QVBoxLayout(&frame);
-  QPushButton& change = makeButton(maker(), form_.LabelChangeColor, frame);
+  auto* frame = new QGroupBox(&parent);
+  maker().bindings().add(
+      std::make_unique<ClickedFrameBinding>(maker().dispatcher(), form_.Frame1, *frame));
+  auto* column = new QVBoxLayout(frame);
+  QPushButton& change = makeButton(maker(), form_.LabelChangeColor, *frame);
   column->addWidget(&change, 0, Qt::AlignLeft);
   auto* chips = new QHBoxLayout;
-  addChip(maker(), form_.LabelPresent, form_.ShapePresentColor, frame, *chips);
+  addChip(maker(), form_.LabelPresent, form_.ShapePresentColor, *frame, *chips);
   chips->addSpacing(kPaneMargin);
-  addChip(maker(), form_.LabelNew, form_.ShapeNewColor, frame, *chips);
+  addChip(maker(), form_.LabelNew, form_.ShapeNewColor, *frame, *chips);
   chips->addStretch();
   column->addLayout(chips);
   column->addStretch();
-  return &frame;
+  return frame;
 }
 
 }  // namespace norvik::desktop

@@ -14,6 +14,9 @@ class PoseWindow : public FormWindow {
 
   void sync() override;
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   QWidget* makeHead();
   QWidget* makePose();

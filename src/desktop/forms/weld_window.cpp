@@ -34,6 +34,11 @@ std::string_view firstValue(const pose::FormPZ2Combine& form, std::string_view n
   return {};
 }
 
+/// Whether the second pose has another value than the first for the morph in a row.
+bool differs(const pose::FormPZ2Combine& form, int row) {
+  return firstValue(form, form.ListFile2.item(row)) != valueOf(form.ListKeyLines.item(row));
+}
+
 }  // namespace
 
 WeldWindow::WeldWindow(const WindowParts& parts, pose::FormPZ2Combine& form)
@@ -91,8 +96,22 @@ QLayout* WeldWindow::makeSecond() {
                                             }},
                                        &morphs));
   side->addLayout(makeColumn(QStringLiteral("Settings to carry over"), &morphs), 1);
-  side->addWidget(&maker().label(form_.LabelKey2, *this));
+  auto* foot = new QHBoxLayout;
+  foot->addWidget(&maker().label(form_.LabelKey2, *this), 1);
+  auto* all = new QPushButton(QStringLiteral("Select all that differ"), this);
+  all->setAutoDefault(false);
+  connect(all, &QPushButton::clicked, this, [this] { selectDiffering(); });
+  foot->addWidget(all);
+  side->addLayout(foot);
   return side;
+}
+
+void WeldWindow::selectDiffering() {
+  maker().dispatcher().run([this] {
+    for (int row = 0; row < form_.ListFile2.count(); ++row) {
+      form_.ListFile2.setSelected(row, differs(form_, row));
+    }
+  });
 }
 
 void WeldWindow::addMissing(QLayout& column) {

@@ -16,6 +16,7 @@ class WeldWindow : public FormWindow {
   QLayout* makeFirst();
   QLayout* makeSecond();
   void addMissing(QLayout& column);
+  void selectDiffering();
 
   pose::FormPZ2Combine& form_;
 };
