@@ -2,6 +2,7 @@
 
 #include "desktop/bind/list_view.h"
 
+#include <QLineEdit>
 #include <QtTest>
 
 namespace norvik::desktop {

@@ -5,6 +5,7 @@
 #include "desktop/words.h"
 #include "text/columns.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -17,6 +18,9 @@ namespace {
 constexpr int kWidth = 760;
 constexpr int kHeight = 560;
 constexpr int kFewRows = 110;
+
+/// The rows of the two sides.
+enum Row : int { kHeads, kFiles, kLists, kFeet };
 
 /// The last number of a key line, which is the morph's value.
 std::string_view valueOf(std::string_view keyLine) {
@@ -45,23 +49,24 @@ WeldWindow::WeldWindow(const WindowParts& parts, pose::FormPZ2Combine& form)
     : FormWindow(parts.maker, form, parts.unload, parts.parent), form_(form) {
   auto* column = new QVBoxLayout(this);
   column->setSpacing(kPaneMargin);
-  auto* sides = new QHBoxLayout;
-  sides->setSpacing(2 * kPaneMargin);
-  sides->addLayout(makeFirst(), 1);
-  sides->addLayout(makeSecond(), 1);
+  auto* sides = new QGridLayout;
+  sides->setHorizontalSpacing(2 * kPaneMargin);
+  sides->setRowStretch(kLists, 1);
+  sides->setColumnStretch(0, 1);
+  sides->setColumnStretch(1, 1);
+  addFirst(*sides);
+  addSecond(*sides);
   column->addLayout(sides, 1);
   addMissing(*column);
   column->addWidget(makeDoneRow(maker(), form.LabelDone, form.LabelCancel, *this));
   resize(kWidth, kHeight);
 }
 
-QLayout* WeldWindow::makeFirst() {
-  auto* side = new QVBoxLayout;
-  auto* head = new QLabel(QStringLiteral("Receives"), this);
-  side->addWidget(head);
+void WeldWindow::addFirst(QGridLayout& sides) {
+  sides.addWidget(new QLabel(QStringLiteral("Receives"), this), kHeads, 0);
   QLabel& file = maker().pathLabel(form_.LabelFileFirst, *this);
   makeFileHeading(file, QStringLiteral("File that receives"));
-  side->addWidget(&file);
+  sides.addWidget(&file, kFiles, 0);
   ListView& morphs = maker().list(form_.ListFile1, *this);
   const front::ListBox& keys = form_.ListKeyLinesFirst;
   morphs.setItemDelegate(
@@ -69,41 +74,35 @@ QLayout* WeldWindow::makeFirst() {
                      .note = [&keys](int row) { return shown(valueOf(keys.item(row))); },
                      .marked = {}},
                     &morphs));
-  side->addLayout(makeColumn(QStringLiteral("Morphs"), &morphs), 1);
-  side->addWidget(&maker().label(form_.LabelKey1, *this));
-  return side;
+  sides.addLayout(makeColumn(QStringLiteral("Morphs"), &morphs), kLists, 0);
+  sides.addWidget(&maker().label(form_.LabelKey1, *this), kFeet, 0);
 }
 
-QLayout* WeldWindow::makeSecond() {
-  auto* side = new QVBoxLayout;
+void WeldWindow::addSecond(QGridLayout& sides) {
   auto* head = new QHBoxLayout;
   head->addWidget(new QLabel(QStringLiteral("Gives"), this), 1);
   head->addWidget(&makeButton(maker(), form_.LabelOpenSecond, *this));
-  side->addLayout(head);
+  sides.addLayout(head, kHeads, 1);
   QLabel& file = maker().pathLabel(form_.LabelFileSecond, *this);
   makeFileHeading(file, QStringLiteral("File that gives"));
-  side->addWidget(&file);
+  sides.addWidget(&file, kFiles, 1);
   ListView& morphs = maker().list(form_.ListFile2, *this);
   // Each click turns one over: settings are checked off one by one.
   morphs.setSelectionMode(QAbstractItemView::MultiSelection);
-  const auto value = [this](int row) { return valueOf(form_.ListKeyLines.item(row)); };
-  morphs.setItemDelegate(new NotedRows({.chip = {},
-                                        .note = [value](int row) { return shown(value(row)); },
-                                        .marked =
-                                            [this, value](int row) {
-                                              return firstValue(form_, form_.ListFile2.item(row)) !=
-                                                     value(row);
-                                            }},
-                                       &morphs));
-  side->addLayout(makeColumn(QStringLiteral("Settings to carry over"), &morphs), 1);
+  const front::ListBox& keys = form_.ListKeyLines;
+  morphs.setItemDelegate(
+      new NotedRows({.chip = {},
+                     .note = [&keys](int row) { return shown(valueOf(keys.item(row))); },
+                     .marked = [this](int row) { return differs(form_, row); }},
+                    &morphs));
+  sides.addLayout(makeColumn(QStringLiteral("Settings to carry over"), &morphs), kLists, 1);
   auto* foot = new QHBoxLayout;
   foot->addWidget(&maker().label(form_.LabelKey2, *this), 1);
   auto* all = new QPushButton(QStringLiteral("Select all that differ"), this);
   all->setAutoDefault(false);
   connect(all, &QPushButton::clicked, this, [this] { selectDiffering(); });
   foot->addWidget(all);
-  side->addLayout(foot);
-  return side;
+  sides.addLayout(foot, kFeet, 1);
 }
 
 void WeldWindow::selectDiffering() {

@@ -4,6 +4,8 @@
 #include "desktop/forms/form_windows.h"
 #include "pose/form_pz2_combine.h"
 
+class QGridLayout;
+
 namespace norvik::desktop {
 
 /// The pose that receives at the left, the one that gives at the right, the morphs that were not
@@ -13,8 +15,8 @@ class WeldWindow : public FormWindow {
   WeldWindow(const WindowParts& parts, pose::FormPZ2Combine& form);
 
  private:
-  QLayout* makeFirst();
-  QLayout* makeSecond();
+  void addFirst(QGridLayout& sides);
+  void addSecond(QGridLayout& sides);
   void addMissing(QLayout& column);
   void selectDiffering();
 
