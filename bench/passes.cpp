@@ -24,6 +24,12 @@
 #include "host.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_lister.h"
+#include "pose/mor_skeleton.h"
+#include "pose/part_lister.h"
+#include "pose/pose_builder.h"
+#include "pose/weld_merge.h"
 #include "text/line_reader.h"
 #include "workbench/workbench.h"
 
@@ -335,6 +341,52 @@ void takeFigureOut(Bench& bench) {
   mustHold(bench.disk.exists("C:\\taken-out.cr2"), "nothing taken out");
 }
 
+template <typename Form>
+Form& formNamed(Bench& bench, std::string_view name) {
+  auto& form = dynamic_cast<Form&>(*bench.session.findForm(name));
+  form.setLoaded(true);
+  return form;
+}
+
+pose::FormPZ2& poseForm(Bench& bench) {
+  auto& form = formNamed<pose::FormPZ2>(bench, "FormPZ2");
+  form.path = bench.path;
+  return form;
+}
+
+/// A pose of all parts is about as large as the figure.
+void buildPose(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  pose::ListTheActorsPZ2(bench.session, form);
+  mustHold(form.ListActorsPZ2.count() > 0, "no parts");
+  for (const std::string& part : form.ListActorsPZ2.items()) form.ListActorsWanted.add(part);
+  pose::buildPose(bench.session, form);
+  mustHold(bench.disk.exists("C:\\figureNew.pz2"), "no pose");
+}
+
+void buildMat(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  pose::ListMaterialsMATPZ2(bench.session, form);
+  mustHold(form.ListMaterialsMAT.count() > 0, "no materials");
+  form.CheckAllMat.setValue(true);
+  bench.choose("mat.pz2");
+  pose::MakeMat(bench.session, form);
+  mustHold(bench.disk.exists("C:\\mat.pz2"), "no MAT file");
+}
+
+void writeSkeleton(Bench& bench) {
+  auto& form = formNamed<pose::FormMOR>(bench, "FormMOR");
+  pose::writeMorSkeleton(bench.session, form);
+  mustHold(form.ListMorphs.count() > 0, "no morphs");
+}
+
+void mergePoses(Bench& bench) {
+  auto& form = formNamed<pose::FormPZ2Combine>(bench, "FormPZ2Combine");
+  form.LabelFileFirst.setCaption(bench.path);
+  pose::mergePoses(bench.session, form);
+  mustHold(form.ListActors1.count() > 0, "no morphs");
+}
+
 }  // namespace
 
 std::string fileOf(Figure figure) {
@@ -354,31 +406,39 @@ std::string fileOf(Figure figure) {
 const std::vector<Pass>& passes() {
   using enum Kind;
   using enum Figure;
-  static const std::vector<Pass> all{
+  static const std::vector<Pass> all {
       pass("whole-line read", read, plain, readLines),
       pass("field read", read, plain, readFields),
       pass("CheckSGI of a conventional file", read, plain,
-           [](Bench& bench) { figure::CheckSGI(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::CheckSGI(bench.session, bench.path); }),
       pass("ListTheActors", read, plain,
-           [](Bench& bench) { figure::ListTheActors(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::ListTheActors(bench.session, bench.path); }),
       pass("OpenCR2", read, plain,
-           [](Bench& bench) { figure::OpenCR2(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::OpenCR2(bench.session, bench.path); }),
       pass("MatLister", read, plain,
-           [](Bench& bench) { figure::MatLister(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::MatLister(bench.session, bench.path); }),
       pass("FindMapLocs", read, plain,
-           [](Bench& bench) { figure::FindMapLocs(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::FindMapLocs(bench.session, bench.path); }),
       pass("ViewChannels", read, plain,
-           [](Bench& bench) { channels::ViewChannels(bench.session, bench.path); }),
+           [](Bench& bench) {
+      channels::ViewChannels(bench.session, bench.path); }),
       pass("bracket count", read, plain,
            [](Bench& bench) {
-             text::LineReader in(bench.disk, bench.path);
-             mustHold(figure::countBrackets(in).left > 1, "no brackets");
+      text::LineReader in(bench.disk, bench.path);
+      mustHold(figure::countBrackets(in).left > 1, "no brackets");
            }),
       pass("LineEndingRepair, LF file", rewrite, lfEnds, repairLineEnds),
       pass("SpaceChopper, one line", rewrite, oneBlank,
-           [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::SpaceChopper(bench.session, bench.path); }),
       pass("SpaceChopper, every line", rewrite, blanks,
-           [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::SpaceChopper(bench.session, bench.path); }),
       pass("phi file", open, plain, makePhi),
       pass("cut of a branch", rewrite, plain, cutBranch),
       pass("extraction of a body part", read, plain, extractPart),
@@ -405,12 +465,17 @@ const std::vector<Pass>& passes() {
       pass("colour of a material", rewrite, plain, changeColour),
       pass("removal of materials", rewrite, plain,
            [](Bench& bench) {
-             materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
+      materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
            }),
       pass("addition of materials", rewrite, plain,
              materials::addMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"});
       pass("alternate geometry", rewrite, plain, addGeometry),
-      pass("figure out of a scene", rewrite, plain, takeFigureOut)};
+      pass("figure out of a scene", rewrite, plain, takeFigureOut),
+      pass("pose, list and copy of all parts", rewrite, plain, buildPose),
+      pass("MAT file, lists and copy", rewrite, plain, buildMat),
+      pass("MOR skeleton", read, plain, writeSkeleton),
+      pass("weld, the pose that receives", rewrite, plain, mergePoses)
+  };
   return all;
 }
 

@@ -2,6 +2,7 @@
 //
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour pose DRIVE SETTINGS OUT      takes those of the pose tools alone
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
@@ -10,6 +11,7 @@
 #include "desktop/bind/drop_mark.h"
 #include "desktop/link_pictures.h"
 #include "desktop/operator.h"
+#include "desktop/pose_pictures.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
 
@@ -230,6 +232,11 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"mesh-dark"_s);
   chooseTheme(program, u"light"_s);
   takeWorkshopPictures(program, hand, camera);
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+  desktop::takePosePictures(
+      hand, drive,
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -309,6 +316,15 @@ int main(int count, char** arguments) {
     if (words[1] == u"copy"_s) copyMorph(hand, drive);
     if (words[1] == u"time"_s) {
       measure(program, words.value(4).toStdString(), started);
+      QApplication::quit();
+    }
+    if (words[1] == u"pose"_s) {
+      const Photographer camera(program, words.value(4));
+      hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+      hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+      desktop::takePosePictures(hand, drive, [&](const QString& name, const QWidget& window) {
+        camera.take(name, window);
+      });
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);

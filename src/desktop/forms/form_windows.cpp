@@ -3,9 +3,12 @@
 #include "desktop/forms/link_dialog_window.h"
 #include "desktop/forms/link_window.h"
 #include "desktop/forms/material_coordinator_window.h"
+#include "desktop/forms/mor_window.h"
 #include "desktop/forms/phi_window.h"
+#include "desktop/forms/pose_window.h"
 #include "desktop/forms/ratio_window.h"
 #include "desktop/forms/tree_window.h"
+#include "desktop/forms/weld_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -45,6 +48,9 @@ constexpr Entry kWindows[] = {
     {"FormOBJ", makeWorkshop},
     {"FormPhi", makeLaidOut<PhiWindow, builders::FormPhi>},
     {"FormTree", makeLaidOut<TreeWindow, builders::FormTree>},
+    {"FormPZ2", makeLaidOut<PoseWindow, pose::FormPZ2>},
+    {"FormMOR", makeLaidOut<MorWindow, pose::FormMOR>},
+    {"FormPZ2Combine", makeLaidOut<WeldWindow, pose::FormPZ2Combine>},
 };
 
 }  // namespace
