@@ -134,6 +134,27 @@ int MemoryHost::remove(const std::string& name) {
   return files_.erase(name) == 0 ? ENOENT : 0;
 }
 
+/// A file has one name here.
+int MemoryHost::link(const std::string&, const std::string&) {
+  return EPERM;
+}
+
+int MemoryHost::clone(const std::string& file, const std::string& name) {
+  if (has(name) || folders_.contains(name)) return EEXIST;
+  const auto found = files_.find(file);
+  if (found == files_.end() || !folders_.contains(folderOf(name))) return ENOENT;
+  files_[name] = std::make_shared<Content>(*found->second);
+  return 0;
+}
+
+int MemoryHost::removeFolder(const std::string& name) {
+  std::vector<std::string> names;
+  if (list(name, names) != 0) return ENOENT;
+  if (!names.empty()) return ENOTEMPTY;
+  folders_.erase(name);
+  return 0;
+}
+
 int MemoryHost::makeFolder(const std::string& name) {
   if (has(name) || folders_.contains(name)) return EEXIST;
   if (!folders_.contains(folderOf(name))) return ENOENT;

@@ -32,6 +32,9 @@ class MemoryHost final : public text::HostOps {
   int renameOver(const std::string& from, const std::string& to) override;
   int renameNew(const std::string& from, const std::string& to) override;
   int remove(const std::string& name) override;
+  int link(const std::string& file, const std::string& name) override;
+  int clone(const std::string& file, const std::string& name) override;
+  int removeFolder(const std::string& name) override;
   int makeFolder(const std::string& name) override;
   int setMode(const std::string& name, unsigned mode) override;
   int setOwner(const std::string& name, unsigned owner, unsigned group) override;

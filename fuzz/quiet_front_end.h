@@ -25,7 +25,7 @@ class QuietFrontEnd final : public front::FrontEnd {
   std::optional<std::string> fileDialog(const front::FileDialog&) override { return {}; }
   std::optional<front::Colour> colourDialog(front::Colour) override { return {}; }
   bool printerDialog() override { return false; }
-  void print(std::string_view, const std::vector<std::string>&) override {}
+  void print(std::string_view, const std::vector<std::string>&, std::size_t) override {}
   void setHourglass(front::Form&, bool) override {}
   void beep() override {}
   void pumpEvents() override {}

@@ -54,8 +54,12 @@ DetailClass detailClass(std::string_view text) {
   return result;
 }
 
+int slavedIndex(int index, DetailClass detail) {
+  return index - distanceFromSlaved(detail);
+}
+
 ErcLink ercLinkAround(const front::ListBox& list, int index, DetailClass detail) {
-  const int slaved = index - distanceFromSlaved(detail);
+  const int slaved = slavedIndex(index, detail);
   const auto value = [&](int distance, std::string_view head) {
     return std::string{text::from(list.item(slaved + distance), head.size() + 1)};
   };

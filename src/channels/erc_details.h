@@ -36,6 +36,9 @@ enum DetailClass : int {
 /// taken for one.
 DetailClass detailClass(std::string_view text);
 
+/// The index of the slaved line among the five detail lines around an item of a class.
+int slavedIndex(int index, DetailClass detail);
+
 /// Reads a link back from the five detail lines around an item of a class.
 ErcLink ercLinkAround(const front::ListBox& list, int index, DetailClass detail);
 

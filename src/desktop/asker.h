@@ -1,6 +1,7 @@
 #pragma once
 // The questions that the front end puts to the operator.
 
+#include "desktop/history/changes_window.h"
 #include "front/front_end.h"
 
 #include <QPrinter>
@@ -23,8 +24,13 @@ class Asker {
     int style = 0;
     QString note{};         ///< the window's own, below the text; may be empty
     bool cautious = false;  ///< a key pressed in haste refuses
+    /// What a Yes would change, for a look at it before it is said.
+    std::optional<ComparedFiles> changes{};
   };
   virtual front::Answer box(const Box& box) = 0;
+  front::Answer box(const QString& title, const QString& text, int style) {
+    return box({.title = title, .text = text, .style = style});
+  }
 
   struct File {
     bool save = false;

@@ -89,7 +89,31 @@ front::Answer DesktopFrontEnd::messageBox(std::string_view text, std::string_vie
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);
   const std::string note = dispatcher_.attached() ? dispatcher_.session().caution() : std::string{};
-  return asker_.box({shown(title), shownMessage(text), style, shownMessage(note), !note.empty()});
+  return asker_.box({.title = shown(title),
+                     .text = shownMessage(text),
+                     .style = style,
+                     .note = shownMessage(note),
+                     .cautious = !note.empty(),
+                     .changes = changesOnOffer(style)});
+}
+
+/// A finished result and the figure that it was made from, while the operator is asked about it.
+std::optional<ComparedFiles> DesktopFrontEnd::changesOnOffer(int style) const {
+  const int buttons = style & front::kButtonMask;
+  const bool isQuestion = buttons == front::kYesNo || buttons == front::kYesNoCancel;
+  if (!isQuestion || !dispatcher_.attached()) return std::nullopt;
+  const front::Result& offered = dispatcher_.session().offered();
+  if (offered.scratch.empty() || !disk_.exists(offered.scratch)) return std::nullopt;
+  const QString name = shown(text::fileTitle(offered.figure));
+  ComparedFiles files;
+  files.title = QStringLiteral("Changes in ") + name;
+  files.explanation =
+      QStringLiteral("From %1 as it is to the finished result. Nothing is saved yet.").arg(name);
+  const bool known = text::ignoringErrors([&] {
+    files.before = disk_.hostPath(offered.figure);
+    files.after = disk_.hostPath(offered.scratch);
+  });
+  return known ? std::optional{files} : std::nullopt;
 }
 
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
@@ -140,10 +164,11 @@ bool DesktopFrontEnd::printerDialog() {
   return asker_.printer(printer());
 }
 
-void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string>& lines) {
+void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string>& lines,
+                            std::size_t headingLines) {
   QStringList page;
   for (const std::string& line : lines) page << shown(line);
-  printLines(printer(), shown(font), page);
+  printLines(printer(), shown(font), page, static_cast<int>(headingLines));
 }
 
 void DesktopFrontEnd::setHourglass(front::Form&, bool on) {
@@ -213,6 +238,7 @@ void DesktopFrontEnd::showModal(front::Form& form, const std::function<void()>& 
   dispatcher_.sync();
   stage_->show(form, true);
   shown();
+  dispatcher_.sync();
   const Dispatcher::Door door(dispatcher_);
   while (form.loaded()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
@@ -238,11 +264,11 @@ void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);
   const QString guide = guideFolder();
-  asker_.box({QStringLiteral("Norvik"),
-              QStringLiteral("Nothing on this system opens %1").arg(shownMessage(target)),
-              front::kExclamation,
-              guide.isEmpty() ? QString() : QStringLiteral("The guide lies in %1").arg(guide),
-              false});
+  asker_.box(
+      {.title = QStringLiteral("Norvik"),
+       .text = QStringLiteral("Nothing on this system opens %1").arg(shownMessage(target)),
+       .style = front::kExclamation,
+       .note = guide.isEmpty() ? QString() : QStringLiteral("The guide lies in %1").arg(guide)});
 }
 
 void DesktopFrontEnd::run(std::string_view commandLine) {
@@ -266,7 +292,8 @@ void DesktopFrontEnd::runtimeError(const text::FileError& error) {
   const ArrowMeanwhile arrow(hourglass_);
   const std::string text = "Run-time error '" + std::to_string(static_cast<int>(error.number())) +
                            "': " + std::string{error.text()};
-  asker_.box({QStringLiteral("Norvik"), shown(text), front::kCritical, whatWasDone(error), false});
+  asker_.box(
+      {QStringLiteral("Norvik"), shown(text), front::kCritical, whatWasDone(error), false, {}});
 }
 
 void DesktopFrontEnd::endProcess() {

@@ -53,7 +53,8 @@ class DesktopFrontEnd : public front::FrontEnd {
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
-  void print(std::string_view font, const std::vector<std::string>& lines) override;
+  void print(std::string_view font, const std::vector<std::string>& lines,
+             std::size_t headingLines) override;
   void setHourglass(front::Form& form, bool on) override;
   void beep() override;
   void pumpEvents() override;
@@ -80,6 +81,7 @@ class DesktopFrontEnd : public front::FrontEnd {
  private:
   static constexpr int kTile = 64;
 
+  std::optional<ComparedFiles> changesOnOffer(int style) const;
   QString hostFolder(const std::string& folder) const;
   QString proposedName(const std::string& file) const;
   QPrinter& printer();

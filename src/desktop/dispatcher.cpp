@@ -2,11 +2,11 @@
 
 namespace norvik::desktop {
 
-bool Dispatcher::run(const std::function<void()>& handler) {
+bool Dispatcher::run(std::string_view trigger, const std::function<void()>& handler) {
   if (!open()) return false;
   open_ = false;
   ++delivered_;
-  session_->deliver(handler);
+  session_->deliver(trigger, handler);
   open_ = true;
   sync();
   if (rest_) rest_();

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string_view>
 #include <utility>
 
 namespace norvik::desktop {
@@ -25,12 +26,15 @@ class Dispatcher {
   /// What is done when a handler has come to its end, however it ended.
   void setRest(std::function<void()> rest) { rest_ = std::move(rest); }
 
-  /// Runs a handler through the session; false if a running one keeps the door shut.
-  bool run(const std::function<void()>& handler);
+  /// Runs a handler through the session; false if a running one keeps the door shut. The trigger is
+  /// the name of what set it off.
+  bool run(std::string_view trigger, const std::function<void()>& handler);
+  bool run(const std::function<void()>& handler) { return run({}, handler); }
 
   template <typename... Args, typename... Values>
   bool raise(const front::Event<Args...>& event, Values&&... values) {
-    return run([&] { event.raise(values...); });
+    return run(session_ == nullptr ? std::string{} : session_->nameOf(event),
+               [&] { event.raise(values...); });
   }
 
   /// Brings the window in step with the controls.

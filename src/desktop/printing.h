@@ -6,7 +6,8 @@
 
 namespace norvik::desktop {
 
-/// Prints lines in a font of fixed or other width, page by page, each page with its number.
-void printLines(QPrinter& printer, const QString& font, const QStringList& lines);
+/// Prints lines in a font of fixed or other width, page by page, each page with its number. The
+/// first `headingLines` lines are larger and bold.
+void printLines(QPrinter& printer, const QString& font, const QStringList& lines, int headingLines);
 
 }  // namespace norvik::desktop

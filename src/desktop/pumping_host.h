@@ -40,6 +40,13 @@ class PumpingHost : public text::HostOps {
     return host_.renameNew(from, to);
   }
   int remove(const std::string& name) override { return host_.remove(name); }
+  int link(const std::string& file, const std::string& name) override {
+    return host_.link(file, name);
+  }
+  int clone(const std::string& file, const std::string& name) override {
+    return host_.clone(file, name);
+  }
+  int removeFolder(const std::string& name) override { return host_.removeFolder(name); }
   int makeFolder(const std::string& name) override { return host_.makeFolder(name); }
   int setMode(const std::string& name, unsigned mode) override { return host_.setMode(name, mode); }
   int setOwner(const std::string& name, unsigned owner, unsigned group) override {

@@ -106,11 +106,21 @@ QWidget* owner() {
                                                       : QApplication::activeWindow();
 }
 
-}  // namespace
+/// Adds a button that shows what differs. It neither answers the question nor writes anything.
+void addChangesButton(QMessageBox& box, const ComparedFiles& files) {
+  QPushButton* button = box.addButton(QStringLiteral("Show &Changes"), QMessageBox::ActionRole);
+  button->setObjectName(QStringLiteral("ShowChanges"));
+  button->setAutoDefault(false);
+  // The box would take a press for an answer.
+  QObject::disconnect(button, &QPushButton::clicked, nullptr, nullptr);
+  QObject::connect(button, &QPushButton::clicked, &box,
+                   [&box, files] { showChanges(files, &box); });
+}
 
 front::Answer WindowAsker::box(const Box& asked) {
   const bool mustAnswer = (asked.style & front::kButtonMask) == front::kYesNo;
   QuestionBox box(iconOf(asked.style), asked, buttonsOf(asked.style), owner(), mustAnswer);
+  if (asked.changes) addChangesButton(box, *asked.changes);
   const auto refusal = refusalOf(asked.style);
   if (!mustAnswer) box.setEscapeButton(refusal);
   if (asked.cautious) box.setDefaultButton(refusal);

@@ -7,6 +7,7 @@ namespace norvik::desktop {
 
 class WindowAsker : public Asker {
  public:
+  using Asker::box;
   front::Answer box(const Box& box) override;
   std::optional<QString> file(const File& file) override;
   std::optional<front::Colour> colour(front::Colour initial) override;

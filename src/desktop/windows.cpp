@@ -58,7 +58,7 @@ void Windows::followFocus(front::Form& form) {
 
 std::unique_ptr<FormWindow> Windows::makeWindow(front::Form& form) {
   const auto unload = [this, &form] {
-    if (form.loaded()) dispatcher_.run([&] { session_.unload(form); });
+    if (form.loaded()) dispatcher_.run(form.name(), [&] { session_.unload(form); });
   };
   return makeFormWindow(form, {maker_, session_, frontEnd_, unload, main_.get()});
 }

@@ -1,5 +1,6 @@
 #include "figure/actor_lister.h"
 
+#include "figure/actor_entry.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
 #include "text/number_text.h"
@@ -49,17 +50,16 @@ void passStorage(text::LineReader& in, text::LineCount& count) {
 }
 
 std::string readEntry(text::LineReader& in, text::LineCount& count, std::string_view actorLine) {
-  std::string entry =
-      std::string{text::from(actorLine, 6)} + " *" + text::numberText(count.asSingle());
+  std::string entry = std::string{actorText(actorLine)} + " *" + text::numberText(count.asSingle());
   static_cast<void>(in.line());
   ++count;
   const bool storage = in.line().empty();
   ++count;
   if (storage) {
-    entry = " ";
+    entry = kStorageEntry;
     passStorage(in, count);
   }
-  return text::holds(entry, "BODY") ? entry : "   " + entry;
+  return indentedEntry(entry);
 }
 
 front::ListBox& targetList(front::Opening& opening) {

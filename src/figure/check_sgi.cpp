@@ -1,7 +1,10 @@
 #include "figure/check_sgi.h"
 
 #include "figure/line_ending_repair.h"
+#include "text/byte_reader.h"
 #include "text/columns.h"
+#include "text/first_dot.h"
+#include "text/line_writer.h"
 
 namespace norvik::figure {
 
@@ -30,12 +33,6 @@ bool mayRepair(front::Session& session, const std::string& path) {
              "Sorry!", front::kOkCancel) != front::Answer::cancel;
 }
 
-/// The path up to and including its first dot; without a dot the whole path. The first, not the
-/// last: a dot in a folder's name cuts there.
-std::string_view upToFirstDot(std::string_view path) {
-  return text::leftmost(path, text::before(path, ".").size() + 1);
-}
-
 void convert(front::Session& session, const std::string& path, const std::string& scratchPath) {
   text::ignoringErrors([&] { session.disk.remove(scratchPath); });
   text::ByteReader source(session.disk, path);
@@ -45,12 +42,11 @@ void convert(front::Session& session, const std::string& path, const std::string
   scratch.close();
 }
 
+/// Whatever fails, a whole figure stands under the name: while there is no backup, the original.
 void swap(text::Disk& disk, const std::string& path, const std::string& scratchPath,
           const std::string& backup) {
-  disk.adoptIdentity(scratchPath, path);
   text::ignoringErrors([&] { disk.remove(backup); });
-  text::ignoringErrors([&] { disk.rename(path, backup); });
-  text::ignoringErrors([&] { disk.rename(scratchPath, path); });
+  text::ignoringErrors([&] { disk.replaceKeeping(scratchPath, path, backup); });
 }
 
 }  // namespace
@@ -69,9 +65,9 @@ void CheckSGI(front::Session& session, std::string& path) {
       "once, and it will not affect the file for Poser.",
       "Note!", front::kOk);
 
-  const std::string scratchPath = std::string{upToFirstDot(path)} + "new";
+  const std::string scratchPath = text::throughFirstDot(path, "new");
   const std::string backup =
-      std::string{text::before(path, ".")} + text::raised(text::extension(path)) + ".bak";
+      text::beforeFirstDot(path, text::raised(text::extension(path)) + ".bak");
   convert(session, path, scratchPath);
   swap(session.disk, path, scratchPath, backup);
   session.hourglass(false);

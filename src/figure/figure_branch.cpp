@@ -8,7 +8,6 @@
 #include "figure/space_chopper.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
-#include "text/number_text.h"
 
 namespace norvik::figure {
 
@@ -25,8 +24,7 @@ void showFrame(front::Session& session, const std::string& path, FileKind kind) 
   opening.LabelFileSize.show();
   opening.PictureMapViewer.show();
 
-  const auto bytes = static_cast<std::int64_t>(session.disk.size(path));
-  opening.LabelFileSize.setCaption(text::wholeNumberText(bytes) + " bytes");
+  opening.LabelFileSize.setCaption(sizeInBytes(session.disk, path));
   opening.ListPropObj.clear();
   opening.ListPropObj.setFore(front::kListNormal);
 }
@@ -88,7 +86,8 @@ void showTools(front::Opening& opening) {
   const std::initializer_list<front::Control*> tools = {
       &opening.PictureViewChannels, &opening.PictureJoints,   &opening.PictureTrash,
       &opening.PictureEMC,          &opening.PictureEditor,   &opening.PictureChangeRatio,
-      &opening.PictureOBJView,      &opening.LabelOpenSource, &opening.LabelOpenSourceTitle};
+      &opening.PictureOBJView,      &opening.LabelOpenSource, &opening.LabelOpenSourceTitle,
+      &opening.TextForceLimits,     &opening.ListTwistRemove, &opening.ListTwistRestore};
   for (front::Control* control : tools) control->show();
 }
 

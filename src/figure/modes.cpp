@@ -60,7 +60,10 @@ void enterObjMode(front::Session& session, const std::string& path) {
                                                                  &opening.ListChannels,
                                                                  &opening.ImageSplash,
                                                                  &opening.PictureEMC,
-                                                                 &opening.PictureChangeRatio};
+                                                                 &opening.PictureChangeRatio,
+                                                                 &opening.TextForceLimits,
+                                                                 &opening.ListTwistRemove,
+                                                                 &opening.ListTwistRestore};
   for (front::Control* control : figureControls) control->hide();
   opening.LabelOBJFileName.setCaption(path);
   opening.LabelOBJFileName.show();

@@ -41,7 +41,7 @@ void openFile(front::Session& session) {
   }
   if (!opening.SkipOpenDialog) {
     if (!opening.CommonDialog1.open(
-            session.front, session.disk.currentFolder(),
+            session.front, session.disk.currentFolder(), "Open",
             {"Open a figure, scene, prop or mesh", front::kFigureFilter, {}})) {
       return;
     }

@@ -19,7 +19,7 @@ PathSlots slotsForFile(const front::Opening& opening) {
 
 bool askForTarget(front::Session& session, std::string_view folder) {
   front::Opening& opening = session.opening;
-  return opening.CommonDialog2.save(session.front, folder, opening.OpenedPath,
+  return opening.CommonDialog2.save(session.front, folder, opening.OpenedPath, "Save As",
                                     {"Save the figure as", front::kFigureFilter, {}});
 }
 

@@ -17,7 +17,7 @@ void openSource(front::Session& session) {
     return;
   }
   const bool chosen = opening.CommonDialog3.open(
-      session.front, session.disk.currentFolder(),
+      session.front, session.disk.currentFolder(), "Open",
       {"Open a source figure to copy from", front::kCharacterFilter, {}});
   if (!chosen || opening.CommonDialog3.fileName().empty()) return;
   opening.OpenedPath = opening.CommonDialog3.fileName();

@@ -56,7 +56,7 @@ class Slider : public Control {
   /// Sets the value, kept within the limits.
   void setValue(int value);
 
-  Event<> changed;  ///< the operator has moved it
+  Event<> changed{*this};  ///< the operator has moved it
 
  private:
   int least_;

@@ -8,14 +8,15 @@ std::string_view CommonDialog::fileTitle() const {
   return text::fileTitle(fileName_);
 }
 
-bool CommonDialog::open(FrontEnd& front, std::string_view folder, const DialogWords& words) {
-  return show(front, FileDialog::Kind::open, "Open", folder, words);
+bool CommonDialog::open(FrontEnd& front, std::string_view folder, std::string_view title,
+                        const DialogWords& words) {
+  return show(front, FileDialog::Kind::open, title, folder, words);
 }
 
 bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed,
-                        const DialogWords& words) {
+                        std::string_view title, const DialogWords& words) {
   fileName_ = proposed;
-  return show(front, FileDialog::Kind::save, "Save As", folder, words);
+  return show(front, FileDialog::Kind::save, title, folder, words);
 }
 
 bool CommonDialog::show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,

@@ -36,10 +36,11 @@ class CommonDialog {
 
   /// Shows the dialog for opening, in a folder, with its last file name. Whether it was accepted;
   /// after a cancel the file name is what it was.
-  bool open(FrontEnd& front, std::string_view folder, const DialogWords& words = {});
+  bool open(FrontEnd& front, std::string_view folder, std::string_view title = "Open",
+            const DialogWords& words = {});
   /// Shows it for saving, with a proposed name.
   bool save(FrontEnd& front, std::string_view folder, std::string_view proposed,
-            const DialogWords& words = {});
+            std::string_view title = "Save As", const DialogWords& words = {});
 
  private:
   bool show(FrontEnd& front, FileDialog::Kind kind, std::string_view title, std::string_view folder,

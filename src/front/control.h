@@ -88,15 +88,15 @@ class Control {
   /// it.
   virtual bool reachable() const { return visible_ && enabled_; }
 
-  Event<Mouse> pressed;
-  Event<Mouse> moved;
-  Event<Mouse> released;
-  Event<> clicked;
-  Event<> doubleClicked;
-  Event<Control&> dropped;  ///< with the control that was dragged here
+  Event<Mouse> pressed{*this};
+  Event<Mouse> moved{*this};
+  Event<Mouse> released{*this};
+  Event<> clicked{*this};
+  Event<> doubleClicked{*this};
+  Event<Control&> dropped{*this};  ///< with the control that was dragged here
   /// With the system paths of the files of a desktop that were dropped here as one.
-  Event<const std::vector<std::string>&> filesDropped;
-  Event<const std::string&> key;  ///< "Enter", "Ctrl+F1", or one character
+  Event<const std::vector<std::string>&> filesDropped{*this};
+  Event<const std::string&> key{*this};  ///< "Enter", "Ctrl+F1", or one character
 
  protected:
   void touch();

@@ -7,6 +7,9 @@
 
 namespace norvik::front {
 
+class Control;
+class Form;
+
 /// A list of handlers, called in the order in which they were added.
 ///
 ///     opening.PictureTrash.released.add([&](Mouse mouse) { ... });
@@ -14,6 +17,14 @@ template <typename... Args>
 class Event {
  public:
   using Handler = std::function<void(Args...)>;
+
+  Event() = default;
+  // What it happens at has a name, by which a front end and the history speak of it.
+  explicit Event(const Control& control) : control_(&control) {}
+  explicit Event(const Form& form) : form_(&form) {}
+
+  const Control* control() const { return control_; }
+  const Form* form() const { return form_; }
 
   void add(Handler handler) { handlers_.push_back(std::move(handler)); }
   bool hasHandlers() const { return !handlers_.empty(); }
@@ -25,6 +36,8 @@ class Event {
 
  private:
   std::vector<Handler> handlers_;
+  const Control* control_ = nullptr;
+  const Form* form_ = nullptr;
 };
 
 enum class MouseButton { left, right, none };

@@ -17,7 +17,7 @@ class FolderList : public Control {
   const std::string& path() const { return path_; }
   void setPath(std::string_view path);
 
-  Event<> changed;  ///< the operator has walked to another folder
+  Event<> changed{*this};  ///< the operator has walked to another folder
 
  private:
   std::string path_;
@@ -34,7 +34,7 @@ class DriveList : public Control {
 
   FolderList* folders() const { return folders_; }
 
-  Event<> changed;  ///< the operator has picked another drive
+  Event<> changed{*this};  ///< the operator has picked another drive
 
  private:
   FolderList* folders_;

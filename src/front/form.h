@@ -54,11 +54,11 @@ class Form {
   /// The controls that changed since the last call, each once, in the order of their first change.
   std::vector<Control*> takeChanges();
 
-  Event<const std::string&> key;
-  Event<Mouse> released;  ///< over the form itself, where no control is
-  Event<> loading;        ///< what the form does before it is shown
-  Event<> shown;          ///< what it does once it is on view: all that a load says or asks
-  Event<> unloading;      ///< what the form does when it is unloaded, also by its close box
+  Event<const std::string&> key{*this};
+  Event<Mouse> released{*this};  ///< over the form itself, where no control is
+  Event<> loading{*this};        ///< what the form does before it is shown
+  Event<> shown{*this};          ///< what it does once it is on view: all that a load says or asks
+  Event<> unloading{*this};      ///< what the form does when it is unloaded, also by its close box
 
  private:
   friend class Control;

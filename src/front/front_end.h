@@ -40,13 +40,13 @@ enum class Answer { ok = 1, cancel = 2, yes = 6, no = 7 };
 struct FileDialog {
   enum class Kind { open, save };
   Kind kind = Kind::open;
-  std::string name;  ///< of the dialog control
-  std::string title;
-  std::string filter;
-  std::string folder;   ///< the initial folder
-  std::string file;     ///< the proposed name
-  std::string purpose;  ///< what the file is for, as a window's title says it; may be empty
-  std::string hint;     ///< what a window adds to that; may be empty
+  std::string name{};  ///< of the dialog control
+  std::string title{};
+  std::string filter{};
+  std::string folder{};   ///< the initial folder
+  std::string file{};     ///< the proposed name
+  std::string purpose{};  ///< what the file is for, as a window's title says it; may be empty
+  std::string hint{};     ///< what a window adds to that; may be empty
 };
 
 /// The outcome of a fetch over the network. `error` is 0 when the front end does not fetch at all.
@@ -78,7 +78,9 @@ class FrontEnd {
   virtual std::optional<Colour> colourDialog(Colour initial) = 0;
   /// Whether the operator wants to print.
   virtual bool printerDialog() = 0;
-  virtual void print(std::string_view font, const std::vector<std::string>& lines) = 0;
+  /// Prints lines; the first `headingLines` of them are larger and bold.
+  virtual void print(std::string_view font, const std::vector<std::string>& lines,
+                     std::size_t headingLines) = 0;
 
   virtual void setHourglass(Form& form, bool on) = 0;
   virtual void beep() = 0;

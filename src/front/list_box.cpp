@@ -29,6 +29,23 @@ void ListBox::add(std::string_view item) {
   touch();
 }
 
+void ListBox::insert(int index, std::string_view item) {
+  if (index < 0 || index > count()) return;
+  items_.emplace(items_.begin() + index, item);
+  selected_.insert(selected_.begin() + index, false);
+  ticked_.insert(ticked_.begin() + index, false);
+  if (index_ >= index) ++index_;
+  ++itemChanges_;
+  touch();
+}
+
+void ListBox::setItem(int index, std::string_view item) {
+  if (!holds(index)) return;
+  items_[static_cast<std::size_t>(index)] = item;
+  ++itemChanges_;
+  touch();
+}
+
 void ListBox::remove(int index) {
   if (!holds(index)) return;
   items_.erase(items_.begin() + index);

@@ -31,6 +31,10 @@ class ListBox : public Control {
   void clear();
   /// Adds an item at the end.
   void add(std::string_view item);
+  /// Adds an item in front of the one at an index, at the end for the index behind the last one.
+  void insert(int index, std::string_view item);
+  /// Gives an item another text; it stays selected if it was.
+  void setItem(int index, std::string_view item);
   /// Takes an item out; those behind it move up with their selection.
   void remove(int index);
   /// Counts the changes of the items, so that a front end that draws them can tell a change of the
@@ -62,7 +66,7 @@ class ListBox : public Control {
   void setTicked(int index, bool ticked);
   /// The indexes of the ticked items, in list order.
   std::vector<int> ticks() const;
-  Event<int> tickChanged;
+  Event<int> tickChanged{*this};
 
   /// Whether a mouse press on an item starts a drag; the tool that owns the target says so.
   bool dragging() const { return dragging_; }

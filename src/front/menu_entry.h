@@ -21,7 +21,7 @@ class MenuEntry : public CaptionControl {
     return Control::reachable() && (above_ == nullptr || above_->reachable());
   }
 
-  Event<> opened;  ///< its menu unfolds; always before an entry below it is chosen
+  Event<> opened{*this};  ///< its menu unfolds; always before an entry below it is chosen
 
  private:
   MenuEntry* above_ = nullptr;

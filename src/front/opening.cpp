@@ -17,6 +17,14 @@ void setTips(Opening& opening) {
   opening.ListChannelsReorder.setTip("Doubleclick a channel to change the tracking speed.");
 }
 
+void fillTwistLists(Opening& opening) {
+  for (ListBox* list : {&opening.ListTwistRemove, &opening.ListTwistRestore}) {
+    list->add("Thigh");
+    list->add("Shoulder");
+    list->add("Hip (as alternate Thigh name)");
+  }
+}
+
 void setColours(Opening& opening) {
   for (Label* label :
        {&opening.LabelMainOBJPath, &opening.LabelPropOBJs, &opening.LabelMainTex,
@@ -46,6 +54,7 @@ Opening::Opening()
   }
   MenuCR2Tools.setEnabled(false);
   setTips(*this);
+  fillTwistLists(*this);
   setColours(*this);
   layOut(*this);
   static_cast<void>(takeChanges());

@@ -33,6 +33,10 @@ class Opening : public Form, public OpeningMenus {
   std::string PoserLocation;  ///< Poser's folder with its backslash, as last read from the settings
   std::string ProgramFolder;  ///< the scratch files' folder, without a backslash at its end
   std::string DragOrigin;     ///< "Channels" or "Actors": where the mouse went down last
+  int RenameKind = 0;         ///< 48: a new name is awaited; 481: the last rename was a body part's
+  std::string ChosenPart;     ///< the actor that a dial tool was last used on
+  std::string MirrorMorph;    ///< the morph that waits for its other side; empty: none
+  float TargetLine = 0;       ///< the line whose tracking speed is being entered
   bool PathsEdited = false;   ///< a path box holds a change that is not in the file yet
   bool SkipOpenDialog = false;   ///< the next open takes OpenedPath
   bool OpenCancelled = false;    ///< the operator refused a repair of line endings
@@ -142,10 +146,21 @@ class Opening : public Form, public OpeningMenus {
   Frame FrameExtractObj{*this, "FrameExtractObj"};
   OptionButton OptionSepObjFiles{*this, "OptionSepObjFiles", "Separate Files", &FrameExtractObj};
   OptionButton OptionOneObjFile{*this, "OptionOneObjFile", "One File", &FrameExtractObj};
-  Frame FrameDialHiding{*this, "FrameDialHiding"};
-  ListBox ListHideDialsChannels{*this, "ListHideDialsChannels"};
+  Frame FrameDialHiding{*this, "FrameDialHiding",
+                        "Note that this won't work for most channels, for reasons no one knows..."};
+  ListBox ListHideDialsChannels{*this, "ListHideDialsChannels", Selection::multiple};
   CommandButton CommandDialHideDone{*this, "CommandDialHideDone", "Done"};
   OptionButton OptionAlphabetize{*this, "OptionAlphabetize", "Alphabetize", &FrameDialHiding};
+  // Each hides or shows the translation dial of its axis.
+  Label LabelX{*this, "LabelX", "X"};
+  Label LabelY{*this, "LabelY", "Y"};
+  Label LabelZ{*this, "LabelZ", "Z"};
+  // There whenever a figure is open.
+  /// A body part's name; Enter forces its limits or gives them back.
+  TextBox TextForceLimits{*this, "TextForceLimits"};
+  /// The parts whose twist parameters can be commented out, and brought back.
+  ListBox ListTwistRemove{*this, "ListTwistRemove"};
+  ListBox ListTwistRestore{*this, "ListTwistRestore"};
   TextBox TextOpeningNotes{*this, "TextOpeningNotes"};
   /// The recent files, oldest first.
   ListBox ListMRU{*this, "ListMRU"};

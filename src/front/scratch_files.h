@@ -31,6 +31,10 @@ inline constexpr auto kScratchFiles = std::to_array<std::string_view>({
 inline constexpr auto kMeshScratchFiles =
     std::to_array<std::string_view>({"\\FArray.txt", "\\VTArray.txt", "\\VArray.txt"});
 
+/// Whether a file of that name in the program folder is a tool's own. Files that a tool leaves
+/// there for the operator, such as "\\Notes.txt" and "\\AltGeom.cr2", are not.
+bool isScratchFile(std::string_view name);
+
 /// Deletes scratch files, errors ignored.
 void deleteScratchFiles(Session& session, std::span<const std::string_view> names);
 

@@ -1,6 +1,7 @@
 #include "front/session.h"
 
 #include "text/columns.h"
+#include "text/history.h"
 
 #include <algorithm>
 #include <new>
@@ -57,7 +58,13 @@ void Session::hourglass(bool on) {
   front.setHourglass(opening, on);
 }
 
-void Session::deliver(const std::function<void()>& handler) {
+std::string Session::nameOf(const Control& control) const {
+  const bool onMainForm = &control.form() == &opening;
+  return onMainForm ? control.name() : control.form().name() + "." + control.name();
+}
+
+void Session::deliver(std::string_view trigger, const std::function<void()>& handler) {
+  const text::History::Act act(disk.history(), trigger);
   const auto stopped = [this](const text::FileError& error) {
     hourglass(false);
     front.runtimeError({error.number(), disk.inFull(error.path()), error.act()});

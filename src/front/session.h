@@ -68,8 +68,20 @@ class Session {
   /// The mouse pointer of a long pass.
   void hourglass(bool on);
 
-  /// Runs a handler. An error of the file layer ends it here and is shown to the operator.
-  void deliver(const std::function<void()>& handler);
+  /// A control by the name that it has in the whole program: "NAME" on the main form, "FORM.NAME"
+  /// elsewhere.
+  std::string nameOf(const Control& control) const;
+  /// What an event happens at: a control, or a form.
+  template <typename... Args>
+  std::string nameOf(const Event<Args...>& event) const {
+    if (event.control() != nullptr) return nameOf(*event.control());
+    return event.form() != nullptr ? event.form()->name() : std::string{};
+  }
+
+  /// Runs a handler. An error of the file layer ends it here and is shown to the operator. The
+  /// trigger is the name of what set it off; without one it is of the act that runs already.
+  void deliver(std::string_view trigger, const std::function<void()>& handler);
+  void deliver(const std::function<void()>& handler) { deliver({}, handler); }
 
   /// The question of a file's read-only attribute before it is opened; on Yes it is taken away.
   /// Throws FileError for a missing file.

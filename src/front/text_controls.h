@@ -53,8 +53,8 @@ class TextBox : public Control {
     set(selectionLength_, length);
   }
 
-  Event<> changed;     ///< the operator has typed
-  Event<> caretMoved;  ///< the operator has placed the caret or selected
+  Event<> changed{*this};     ///< the operator has typed
+  Event<> caretMoved{*this};  ///< the operator has placed the caret or selected
 
  private:
   std::string text_;

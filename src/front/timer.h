@@ -19,7 +19,7 @@ class Timer : public Control {
   void start() { set(running_, true); }
   void stop() { set(running_, false); }
 
-  Event<> expired;
+  Event<> expired{*this};
 
  private:
   int interval_;

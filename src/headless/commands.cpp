@@ -13,11 +13,6 @@ namespace norvik::headless {
 
 namespace {
 
-std::string nameOf(const front::Session& session, const front::Control& control) {
-  const bool onMainForm = &control.form() == &session.opening;
-  return onMainForm ? control.name() : control.form().name() + "." + control.name();
-}
-
 /// Runs a step on the disk or the settings that the script itself asks for.
 void orRefuse(const std::function<void()>& step) {
   try {
@@ -45,6 +40,7 @@ Commands::Commands(workbench::Workbench& workbench, ScriptFrontEnd& front, Trans
   addInput();
   addInner();
   addDisk();
+  addHistory();
   addOutput();
 }
 
@@ -154,7 +150,7 @@ void Commands::addAnswers() {
 
 void Commands::addProgram() {
   const auto unload = [this](front::Form& form) {
-    session_.deliver([&] { session_.unload(form); });
+    session_.deliver(form.name(), [&] { session_.unload(form); });
   };
   add("start", 0, [this](ScriptLine&) {
     if (session_.opening.loaded()) throw Refused{"the program has started"};
@@ -171,7 +167,7 @@ void Commands::addProgram() {
     if (form == nullptr) throw Refused{"no form '" + name + "'"};
     if (form == &session_.opening) throw Refused{"the main form is loaded by start"};
     if (form->loaded()) throw Refused{"the form " + form->name() + " is loaded"};
-    session_.deliver([&] { session_.load(*form); });
+    session_.deliver(form->name(), [&] { session_.load(*form); });
   });
   add("close", 1, [this, unload](ScriptLine& line) { unload(reachForm(line.word())); });
   add("frames", 1, [this](ScriptLine& line) {
@@ -290,7 +286,7 @@ void Commands::addInner() {
     const std::string name = line.word();
     const auto routine = session_.callable.find(name);
     if (routine == session_.callable.end()) throw Refused{"no routine '" + name + "'"};
-    session_.deliver(routine->second);
+    session_.deliver(name, routine->second);
   });
   add("put", kAny, [this](ScriptLine& line) {
     front::Control& control = find(line.word());
@@ -331,11 +327,11 @@ void Commands::addOutput() {
       return;
     }
     const front::Control& control = find(name);
-    transcript_.print(showEvent(control, nameOf(session_, control)));
+    transcript_.print(showEvent(control, session_.nameOf(control)));
   });
   add("show-form", 1, [this](ScriptLine& line) {
     for (const front::Control* control : loadedForm(line.word()).controls()) {
-      transcript_.print(showEvent(*control, nameOf(session_, *control)));
+      transcript_.print(showEvent(*control, session_.nameOf(*control)));
     }
   });
   add("save-picture", kAny, [this](ScriptLine& line) { savePicture(line); });
@@ -358,7 +354,7 @@ void Commands::checkProperty(ScriptLine& line) {
   for (const Property& property : propertiesOf(control)) {
     if (property.name != name) continue;
     if (property.text != wanted) {
-      fail(line, nameOf(session_, control) + " " + name + " is '" + property.text + "', not '" +
+      fail(line, session_.nameOf(control) + " " + name + " is '" + property.text + "', not '" +
                      wanted + "'");
     }
     return;

@@ -36,6 +36,7 @@ class Commands {
   void addInput();
   void addInner();
   void addDisk();
+  void addHistory();
   void addOutput();
 
   // A control by name. Operators reach only what is on view and enabled, in front of any modal

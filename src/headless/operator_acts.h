@@ -54,7 +54,7 @@ class OperatorActs {
  private:
   template <typename... Args, typename... Values>
   void deliver(const front::Event<Args...>& event, Values&&... values) {
-    session_.deliver([&] { event.raise(values...); });
+    session_.deliver(session_.nameOf(event), [&] { event.raise(values...); });
   }
   void choose(front::MenuEntry& entry);
 

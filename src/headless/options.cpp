@@ -21,6 +21,9 @@ const char* const kHelp =
     "  --clock \"YYYY-MM-DD HH:MM:SS\"\n"
     "                     a fixed time for everything that writes a date\n"
     "  --open PATH        the command line of the program, as it stands\n"
+    "  --history FOLDER   the host folder that keeps the old versions of files that tools "
+    "replace,\n"
+    "                     delete or change; made if missing (none kept)\n"
     "  --help, --version\n"
     "\n"
     "Every question, box and act comes out as one JSON object a line. Exit code: 0 the script ran "
@@ -92,6 +95,7 @@ Options parseOptions(const std::vector<std::string>& arguments) {
        {"--settings", [&](const std::string& value) { options.settings = value; }},
        {"--screen", [&](const std::string& value) { setScreen(options.frontEnd, value); }},
        {"--clock", [&](const std::string& value) { options.frontEnd.clock = clockOf(value); }},
+       {"--history", [&](const std::string& value) { options.history = value; }},
        {"--open", [&](const std::string& value) { options.open = value; }}},
       takeRest);
   return options;

@@ -14,6 +14,7 @@ struct Options {
   std::string program;
   std::string currentFolder;
   std::string settings;
+  std::string history;
   std::string open;
   std::string script = "-";
   ScriptFrontEnd::Options frontEnd;

@@ -1,11 +1,13 @@
 #include "headless/runner.h"
 
 #include "headless/commands.h"
+#include "text/history.h"
 #include "text/safe_replace.h"
 #include "workbench/workbench.h"
 
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 
 namespace norvik::headless {
 
@@ -62,6 +64,19 @@ front::Settings settingsOf(text::HostOps& host, const Options& options) {
   return settings;
 }
 
+/// The store, like the settings' one, stands from the start. None if the options name none.
+std::unique_ptr<text::History> historyOf(text::HostOps& host, const Options& options) {
+  if (options.history.empty()) return nullptr;
+  std::error_code error;
+  std::filesystem::create_directories(options.history, error);
+  const auto folder = std::filesystem::canonical(options.history, error);
+  if (!error && !std::filesystem::is_directory(folder, error)) {
+    error = std::make_error_code(std::errc::not_a_directory);
+  }
+  if (error) throw workbench::BadOption{"--history " + options.history + ": " + error.message()};
+  return std::make_unique<text::History>(host, folder.string());
+}
+
 }  // namespace
 
 ExitCode runScript(const Options& options, text::HostOps& host, std::istream& input,
@@ -71,6 +86,8 @@ ExitCode runScript(const Options& options, text::HostOps& host, std::istream& in
   enterCurrentFolder(disk, options);
   const std::string program = programFolder(disk, options);
   front::Settings settings = settingsOf(host, options);
+  const std::unique_ptr<text::History> history = historyOf(host, options);
+  disk.setHistory(history.get());
 
   Transcript transcript(out);
   Outcome outcome;
@@ -87,8 +104,9 @@ ExitCode runScript(const Options& options, text::HostOps& host, std::istream& in
   };
   frontEnd.setStep(step);
   front::Session& session = workbench.session();
-  frontEnd.setUnload(
-      [&session](front::Form& form) { session.deliver([&] { session.unload(form); }); });
+  frontEnd.setUnload([&session](front::Form& form) {
+    session.deliver(form.name(), [&] { session.unload(form); });
+  });
   while (!frontEnd.ended() && step()) {
   }
   // A transcript that did not get out must not look like a run that went well.

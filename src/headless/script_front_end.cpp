@@ -92,7 +92,8 @@ bool ScriptFrontEnd::printerDialog() {
   return accepted;
 }
 
-void ScriptFrontEnd::print(std::string_view font, const std::vector<std::string>& lines) {
+void ScriptFrontEnd::print(std::string_view font, const std::vector<std::string>& lines,
+                           std::size_t) {
   transcript_.print(JsonObject("print").text("font", font).texts("lines", lines));
 }
 

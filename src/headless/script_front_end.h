@@ -49,7 +49,8 @@ class ScriptFrontEnd : public front::FrontEnd {
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
-  void print(std::string_view font, const std::vector<std::string>& lines) override;
+  void print(std::string_view font, const std::vector<std::string>& lines,
+             std::size_t headingLines) override;
   void setHourglass(front::Form&, bool) override {}
   void beep() override;
   void pumpEvents() override {}

@@ -1,5 +1,6 @@
 #include "lifecycle/file_menu.h"
 
+#include "front/dial_frame.h"
 #include "front/screen_scale.h"
 #include "lifecycle/poser_location.h"
 #include "text/columns.h"
@@ -54,17 +55,17 @@ void tidyForFileMenu(front::Session& session) {
   front::Opening& opening = session.opening;
   const std::initializer_list<front::Control*> hidden = {
       &opening.ListMRU,         &opening.FrameMash,     &opening.OptionMashOBJ,
-      &opening.OptionMashMorph, &opening.PictureMirror, &opening.ListAllTexMaps,
-      &opening.FrameDialHiding};
+      &opening.OptionMashMorph, &opening.PictureMirror, &opening.ListAllTexMaps};
   for (front::Control* control : hidden) control->hide();
+  front::hideDialFrame(opening);
   readPoserLocation(session);
 }
 
 void tidyForToolsMenu(front::Opening& opening) {
   const std::initializer_list<front::Control*> hidden = {
-      &opening.FrameMash, &opening.OptionMashOBJ, &opening.OptionMashMorph, &opening.PictureMirror,
-      &opening.FrameDialHiding};
+      &opening.FrameMash, &opening.OptionMashOBJ, &opening.OptionMashMorph, &opening.PictureMirror};
   for (front::Control* control : hidden) control->hide();
+  front::hideDialFrame(opening);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "text/classic_errors.h"
 #include "text/columns.h"
 #include "text/file_names.h"
+#include "text/host_names.h"
 #include "text/safe_replace.h"
 #include "text/wildcards.h"
 
@@ -12,21 +13,12 @@ namespace norvik::text {
 
 namespace {
 
-constexpr unsigned kOwnerMayWrite = 0200;
-constexpr unsigned kAnyMayWrite = 0222;
-
 char driveLetter(char c) {
   return raised({&c, 1})[0];
 }
 
 bool isSeparator(char c) {
   return c == '\\' || c == '/';
-}
-
-std::string joined(const std::string& folder, std::string_view name) {
-  std::string result = folder;
-  if (!result.ends_with('/')) result += '/';
-  return result.append(name);
 }
 
 /// Adds the names of a path to `parts`, ".." taking one away.
@@ -196,17 +188,9 @@ bool Disk::isReadOnly(std::string_view path) const {
                  [&] { return (locateExisting(path).status.mode & kOwnerMayWrite) == 0; });
 }
 
-void Disk::setReadOnly(std::string_view path, bool readOnly) {
-  blaming(path, FileAct::changingAttribute, [&] {
-    const Place place = locateExisting(path);
-    const unsigned mode = place.status.mode;
-    raise(host_.setMode(place.name, readOnly ? mode & ~kAnyMayWrite : mode | kOwnerMayWrite));
-  });
-}
-
 std::string Disk::nameOnDisk(std::string_view path) const {
   const Place place = blaming(path, FileAct::lookingFor, [&] { return locate(path); });
-  return place.exists() ? place.name.substr(place.name.find_last_of('/') + 1) : std::string{};
+  return place.exists() ? std::string{lastName(place.name)} : std::string{};
 }
 
 std::vector<std::string> Disk::matching(std::string_view pattern) const {
@@ -231,91 +215,10 @@ std::vector<std::string> Disk::matching(std::string_view pattern) const {
   return names;
 }
 
-void Disk::makeFolder(std::string_view path) {
-  blaming(path, FileAct::makingFolder, [&] {
-    const Place place = locate(path);
-    if (place.exists()) throw FileError(ErrorNumber::pathFileAccess);
-    if (!place.inFolder) throw FileError(ErrorNumber::pathNotFound);
-    raise(host_.makeFolder(place.name));
-  });
-}
-
-void Disk::makeFolders(std::string_view path) {
-  blaming(path, FileAct::makingFolder, [&] {
-    const Path whole = parse(path);
-    Path part{whole.drive, {}};
-    for (const std::string& name : whole.parts) {
-      part.parts.push_back(name);
-      const Place place = locate(part);
-      if (!place.exists()) raise(host_.makeFolder(place.name));
-    }
-    if (locate(whole).status.kind != HostStatus::Kind::folder) {
-      throw FileError(ErrorNumber::pathFileAccess);
-    }
-  });
-}
-
-void Disk::remove(std::string_view path) {
-  blaming(path, FileAct::deleting, [&] {
-    const Place place = locateFile(path);
-    if ((place.status.mode & kOwnerMayWrite) == 0) throw FileError(ErrorNumber::pathFileAccess);
-    raise(host_.remove(place.name));
-  });
-}
-
 std::unique_ptr<HostFile> Disk::open(const std::string& name, HostOpenMode mode) const {
   std::unique_ptr<HostFile> file;
   raise(host_.open(name, mode, file));
   return file;
-}
-
-void Disk::syncFile(const std::string& name, std::string_view path) const {
-  blaming(path, FileAct::writing, [&] { raise(open(name, HostOpenMode::read)->sync()); });
-}
-
-void Disk::adoptIdentity(std::string_view file, std::string_view model) {
-  ignoringErrors([&] {
-    HostStatus status = locateFile(model).status;
-    status.mode |= kOwnerMayWrite;
-    keepIdentity(host_, locateFile(file).name, status);
-  });
-}
-
-void Disk::rename(std::string_view from, std::string_view to) {
-  // What the host says of the step itself is about the new name: the old one could be flushed.
-  blaming(to, FileAct::moving, [&] {
-    const Place source = locateExisting(from);
-    const Place target = locate(to);
-    if (!target.inFolder) throw FileError(ErrorNumber::pathNotFound);
-    if (target.exists()) throw FileError(ErrorNumber::fileAlreadyExists);
-    if (source.status.kind == HostStatus::Kind::file) syncFile(source.name, from);
-    moveFile(host_, followLinks(host_, source.name), followLinks(host_, target.name), false);
-  });
-}
-
-/// Gives a file the spelling of a path's last name, from which it differs in case alone.
-void Disk::respell(const std::string& name, std::string_view path) {
-  const std::string wanted =
-      joined(name.substr(0, name.find_last_of('/')), parse(path).parts.back());
-  // A spelling out of a figure file has single bytes for letters that the host's names have not.
-  const bool fits = sameName(name, wanted) && isUtf8(wanted);
-  // Should it fail, the file is whole under its old spelling.
-  if (fits && name != wanted) static_cast<void>(host_.renameNew(name, wanted));
-}
-
-void Disk::replace(std::string_view scratch, std::string_view target) {
-  blaming(target, FileAct::replacing, [&] {
-    const Place old = locateWritable(target);
-    if (!old.exists()) return rename(scratch, target);
-    const Place made = locateFile(scratch);
-    const std::string name = followLinks(host_, old.name);
-    if (areOneFile(made, old)) return;
-    syncFile(made.name, scratch);
-    keepIdentity(host_, made.name, old.status);
-    moveFile(host_, made.name, name, true);
-    // A link keeps its own name and its file's.
-    if (name == old.name) respell(name, target);
-  });
 }
 
 std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {
@@ -323,20 +226,13 @@ std::unique_ptr<HostFile> Disk::openForReading(std::string_view path) const {
                  [&] { return open(locateFile(path).name, HostOpenMode::read); });
 }
 
-std::unique_ptr<HostFile> Disk::openWritable(std::string_view path, HostOpenMode mode) {
-  return blaming(path, FileAct::writing, [&] { return open(locateWritable(path).name, mode); });
-}
-
-std::unique_ptr<HostFile> Disk::openForWriting(std::string_view path) {
-  return openWritable(path, HostOpenMode::write);
-}
-
-std::unique_ptr<HostFile> Disk::openForAppending(std::string_view path) {
-  return openWritable(path, HostOpenMode::append);
-}
-
-std::unique_ptr<HostFile> Disk::openForUpdating(std::string_view path) {
-  return openWritable(path, HostOpenMode::update);
+/// A path from its drive on, ".." and whatever else does not count left out.
+std::string Disk::fullPath(std::string_view path) const {
+  const Path parsed = parse(path);
+  std::string result{parsed.drive};
+  result += ':';
+  for (const std::string& part : parsed.parts) result.append("\\").append(part);
+  return result;
 }
 
 std::string Disk::inFull(std::string_view path) const {

@@ -4,8 +4,10 @@
 // case.
 
 #include "text/file_error.h"
+#include "text/history_entry.h"
 #include "text/host.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,6 +16,8 @@
 #include <vector>
 
 namespace norvik::text {
+
+class History;
 
 /// The drives, the current folder and the classic file operations with their classic errors:
 /// a missing file is fileNotFound (53), a missing folder on the way to it, an unknown drive or a
@@ -63,6 +67,11 @@ class Disk {
   /// error the old file stands as it was, and so does `scratch`.
   void replace(std::string_view scratch, std::string_view target);
 
+  /// The same, and the old file stays under a further name, `backup`, which must be free (58):
+  /// first it has both names, then `scratch` takes its place. The new file is not read-only, even
+  /// if the old one is.
+  void replaceKeeping(std::string_view scratch, std::string_view target, std::string_view backup);
+
   /// Gives `file` the mode and owner of `model`, but for the read-only attribute. Never fails.
   void adoptIdentity(std::string_view file, std::string_view model);
 
@@ -71,6 +80,13 @@ class Disk {
   std::unique_ptr<HostFile> openForAppending(std::string_view path);
   /// Read and written anywhere; made if missing.
   std::unique_ptr<HostFile> openForUpdating(std::string_view path);
+
+  /// Has old versions kept from now on; null: no more. The history outlives the disk.
+  void setHistory(History* history) { history_ = history; }
+  History* history() const { return history_; }
+  /// Puts an old version back where it was, read-only or not, as `replace` does; what it replaces
+  /// is kept in turn.
+  void restore(const HistoryEntry& entry);
 
   /// A path with its drive and folders: one that has none is completed by the current folder. One
   /// that no file can have stays as it is. Never fails.
@@ -104,8 +120,16 @@ class Disk {
   std::unique_ptr<HostFile> openWritable(std::string_view path, HostOpenMode mode);
   void syncFile(const std::string& name, std::string_view path) const;
   void respell(const std::string& name, std::string_view path);
+  std::string fullPath(std::string_view path) const;
+  void losing(Loss what, const Place& place, const std::string& name, std::string_view path,
+              const std::function<void()>& step);
+  void takePlace(const std::string& made, const Place& old, std::string_view target,
+                 const HostStatus& identity);
+
+  static constexpr unsigned kOwnerMayWrite = 0200;
 
   HostOps& host_;
+  History* history_ = nullptr;
   std::map<char, std::string> drives_;
   std::string currentFolder_;
 };

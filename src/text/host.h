@@ -27,6 +27,7 @@ struct HostStatus {
   // Two names with the same numbers are one file's; 0 where the host does not tell.
   std::uint64_t medium = 0;
   std::uint64_t serial = 0;
+  std::uint64_t names = 1;  ///< how many names the file has
 };
 
 /// An open host file. Closing happens with the object.
@@ -68,7 +69,14 @@ class HostOps {
   /// Renames, and fails with EEXIST if `to` exists.
   virtual int renameNew(const std::string& from, const std::string& to) = 0;
   virtual int remove(const std::string& name) = 0;
+  /// Gives a file a further name on the same file system; fails with EEXIST if that exists.
+  virtual int link(const std::string& file, const std::string& name) = 0;
+  /// Makes a new file that shares the bytes of another one until either changes; fails where the
+  /// file system knows no such thing, and with EEXIST if the name exists.
+  virtual int clone(const std::string& file, const std::string& name) = 0;
   virtual int makeFolder(const std::string& name) = 0;
+  /// Removes an empty folder.
+  virtual int removeFolder(const std::string& name) = 0;
   virtual int setMode(const std::string& name, unsigned mode) = 0;
   virtual int setOwner(const std::string& name, unsigned owner, unsigned group) = 0;
   /// Returns when the folder's entries are on the medium.

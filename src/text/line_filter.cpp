@@ -31,7 +31,10 @@ bool startsLine(std::string_view block, std::size_t offset) {
 
 }  // namespace
 
-LineFilter::LineFilter(std::initializer_list<Token> tokens) {
+LineFilter::LineFilter(std::initializer_list<Token> tokens)
+    : LineFilter(std::vector<Token>{tokens}) {}
+
+LineFilter::LineFilter(const std::vector<Token>& tokens) {
   for (const Token& token : tokens) searches_.push_back({token, rarestOffset(token.text)});
 }
 

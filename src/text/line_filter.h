@@ -18,6 +18,7 @@ class LineFilter {
   };
 
   LineFilter(std::initializer_list<Token> tokens);
+  explicit LineFilter(const std::vector<Token>& tokens);
 
   /// The offset of the first hit in `block`, or its size. The block begins at the start of a line.
   std::size_t find(std::string_view block) const;

@@ -175,4 +175,18 @@ void LineReader::handOnLines(const LineFilter& filter, const Sink& sink) {
   }
 }
 
+void LineReader::handOnNext(std::uint64_t count, const Sink& sink) {
+  while (count > 0 && !atEnd()) {
+    const std::string_view block = wholeLines();
+    if (block.empty()) {
+      refill();
+      continue;
+    }
+    const std::size_t length = text::endOfLines(block, count);
+    sink(block.substr(0, length));
+    begin_ += length;
+    forgetEnds();
+  }
+}
+
 }  // namespace norvik::text

@@ -91,6 +91,10 @@ class LineReader {
   using Sink = std::function<void(std::string_view lines)>;
   void handOnLines(const LineFilter& filter, const Sink& sink);
 
+  /// Passes over the next `count` lines, or those that are left, and hands them to `sink` in the
+  /// same way. The next read must start a line.
+  void handOnNext(std::uint64_t count, const Sink& sink);
+
  private:
   std::string_view unread() const { return {buffer_.data() + begin_, end_ - begin_}; }
   bool refill();

@@ -52,6 +52,21 @@ NORVIK_WIDE std::uint64_t countLines(std::string_view text) {
   return ends + (isLineEnd(text.back()) ? 1 : 0);
 }
 
+std::size_t endOfLines(std::string_view text, std::uint64_t& count) {
+  if (text.empty()) return 0;
+  const std::uint64_t lines = countLines(text) + (isLineEnd(text.back()) ? 0 : 1);
+  if (lines <= count) {
+    count -= lines;
+    return text.size();
+  }
+  std::size_t end = 0;
+  for (; count > 0; --count) {
+    end = findLineEnd(text, end);
+    end += lineEndSize(text.data() + end);  // there is a line behind it
+  }
+  return end;
+}
+
 NORVIK_WIDE bool hasConventionalEndings(std::string_view text) {
   if (text.empty()) return true;
   if (text.front() == '\n' || text.back() == '\r') return false;

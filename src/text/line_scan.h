@@ -51,6 +51,10 @@ inline std::size_t lineEndSize(const char* end) {
 /// The line endings in a text that is not cut between a CR and its LF.
 std::uint64_t countLines(std::string_view text);
 
+/// The offset behind the first `count` lines of a text, or its size if it has no more. `count`
+/// becomes what is left of it; the text is not cut between a CR and its LF.
+std::size_t endOfLines(std::string_view text, std::uint64_t& count);
+
 /// Whether every line ending in the text is CR LF.
 bool hasConventionalEndings(std::string_view text);
 

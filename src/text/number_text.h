@@ -29,6 +29,8 @@ class LineCount {
     ++lines_;
     return *this;
   }
+  /// The count as it is.
+  std::uint64_t lines() const { return lines_; }
   /// The count as a single-precision number, `offset` added.
   float asSingle(int offset = 0) const;
 

@@ -6,8 +6,13 @@
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#if __has_include(<linux/fs.h>)
+#include <linux/fs.h>
+#endif
 
 namespace norvik::text {
 
@@ -62,6 +67,12 @@ class PosixFile final : public HostFile {
 
   int sync() override { return errorOf(::fsync(descriptor_)); }
 
+#ifdef FICLONE
+  int shareBytesOf(const PosixFile& other) {
+    return errorOf(::ioctl(descriptor_, FICLONE, other.descriptor_));
+  }
+#endif
+
  private:
   int descriptor_;
 };
@@ -82,15 +93,21 @@ int openFlags(HostOpenMode mode) {
   return O_RDONLY;
 }
 
+int openAs(const std::string& name, int flags, std::unique_ptr<PosixFile>& file) {
+  // Not to wait for the other end of a pipe: O_NONBLOCK means nothing to a file.
+  const int descriptor = ::open(name.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
+  if (descriptor < 0) return errno;
+  file = std::make_unique<PosixFile>(descriptor);
+  return 0;
+}
+
 class PosixHost final : public HostOps {
  public:
   int open(const std::string& name, HostOpenMode mode, std::unique_ptr<HostFile>& file) override {
-    // Not to wait for the other end of a pipe: O_NONBLOCK means nothing to a file.
-    const int descriptor =
-        ::open(name.c_str(), openFlags(mode) | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
-    if (descriptor < 0) return errno;
-    file = std::make_unique<PosixFile>(descriptor);
-    return 0;
+    std::unique_ptr<PosixFile> opened;
+    const int error = openAs(name, openFlags(mode), opened);
+    file = std::move(opened);
+    return error;
   }
 
   int status(const std::string& name, HostStatus& status) override {
@@ -108,6 +125,7 @@ class PosixHost final : public HostOps {
     status.group = found.st_gid;
     status.medium = found.st_dev;
     status.serial = found.st_ino;
+    status.names = found.st_nlink;
     return 0;
   }
 
@@ -152,8 +170,32 @@ class PosixHost final : public HostOps {
     return errorOf(::unlink(name.c_str()));
   }
 
+  int link(const std::string& file, const std::string& name) override {
+    return errorOf(::link(file.c_str(), name.c_str()));
+  }
+
+  int clone(const std::string& file, const std::string& name) override {
+#ifdef FICLONE
+    std::unique_ptr<PosixFile> from;
+    std::unique_ptr<PosixFile> to;
+    if (const int error = openAs(file, O_RDONLY, from); error != 0) return error;
+    if (const int error = openAs(name, O_WRONLY | O_CREAT | O_EXCL, to); error != 0) return error;
+    const int error = to->shareBytesOf(*from);
+    if (error != 0) ::unlink(name.c_str());
+    return error;
+#else
+    static_cast<void>(file);
+    static_cast<void>(name);
+    return ENOTSUP;
+#endif
+  }
+
   int makeFolder(const std::string& name) override {
     return errorOf(::mkdir(name.c_str(), kNewFolderMode));
+  }
+
+  int removeFolder(const std::string& name) override {
+    return errorOf(::rmdir(name.c_str()));
   }
 
   int setMode(const std::string& name, unsigned mode) override {

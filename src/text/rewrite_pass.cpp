@@ -1,5 +1,7 @@
 #include "text/rewrite_pass.h"
 
+#include "text/line_copy.h"
+
 namespace norvik::text {
 
 namespace {
@@ -22,12 +24,11 @@ RewritePass::RewritePass(Disk& disk, std::string_view figure, std::string_view s
     : out_(disk, cleared(disk, figure, scratch)), in_(disk, figure) {}
 
 void RewritePass::copyLines(const LineFilter& filter) {
-  in_.handOnLines(filter, [this](std::string_view lines) { out_.lines(lines); });
+  text::copyLines(in_, out_, filter);
 }
 
 void RewritePass::copyRest() {
-  if (!in_.atEnd() && !in_.atLineStart()) out_.line(in_.line());
-  copyLines({});
+  text::copyRest(in_, out_);
 }
 
 void RewritePass::finish() {

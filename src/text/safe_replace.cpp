@@ -1,6 +1,7 @@
 #include "text/safe_replace.h"
 
 #include "text/classic_errors.h"
+#include "text/host_names.h"
 
 #include <cerrno>
 #include <functional>
@@ -12,37 +13,10 @@ namespace {
 
 constexpr int kMostLinks = 40;
 
-std::string folderOf(const std::string& name) {
-  const auto slash = name.find_last_of('/');
-  if (slash == std::string::npos) return ".";
-  return slash == 0 ? "/" : name.substr(0, slash);
-}
-
 /// The new name stands by now, so an error must not read as if nothing had happened: then the name
 /// is as safe as the file system makes it.
 void syncFolderOf(HostOps& host, const std::string& name) {
   static_cast<void>(host.syncFolder(folderOf(name)));
-}
-
-/// Makes a new file in the folder of `target`, filled by `fill` and flushed, and returns its name.
-std::string createBeside(HostOps& host, const std::string& target,
-                         const std::function<int(HostFile&)>& fill) {
-  std::unique_ptr<HostFile> file;
-  std::string name;
-  int error = EEXIST;
-  for (int attempt = 0; error == EEXIST; ++attempt) {
-    name = target + ".norvik-" + std::to_string(attempt);
-    error = host.open(name, HostOpenMode::createNew, file);
-  }
-  raise(error);
-  error = fill(*file);
-  if (error == 0) error = file->sync();
-  if (error != 0) {
-    file.reset();
-    static_cast<void>(host.remove(name));
-  }
-  raise(error);
-  return name;
 }
 
 int copyInto(HostFile& out, HostFile& in) {
@@ -55,13 +29,25 @@ int copyInto(HostFile& out, HostFile& in) {
   }
 }
 
-std::string copyBeside(HostOps& host, const std::string& source, const std::string& target) {
-  HostStatus model;
-  raise(host.status(source, model));
-  std::unique_ptr<HostFile> in;
-  raise(host.open(source, HostOpenMode::read, in));
-  std::string name = createBeside(host, target, [&](HostFile& out) { return copyInto(out, *in); });
-  keepIdentity(host, name, model);
+/// Flushes a new file. One that is not whole does not stay.
+int finish(HostOps& host, const std::string& name, std::unique_ptr<HostFile> file, int error) {
+  if (error == 0) error = file->sync();
+  file.reset();
+  if (error != 0) static_cast<void>(host.remove(name));
+  return error;
+}
+
+/// Makes a new file in the folder of `target` by `make`, which fails with EEXIST for a name that is
+/// taken, and returns its name.
+std::string createBeside(const std::string& target,
+                         const std::function<int(const std::string&)>& make) {
+  std::string name;
+  int error = EEXIST;
+  for (int attempt = 0; error == EEXIST; ++attempt) {
+    name = target + ".norvik-" + std::to_string(attempt);
+    error = make(name);
+  }
+  raise(error);
   return name;
 }
 
@@ -78,10 +64,54 @@ std::string followLinks(HostOps& host, std::string name) {
   throw FileError(ErrorNumber::pathFileAccess);
 }
 
+int makeFile(HostOps& host, const std::string& name, std::string_view content) {
+  std::unique_ptr<HostFile> file;
+  if (const int error = host.open(name, HostOpenMode::createNew, file); error != 0) return error;
+  const int error = file->write(content);
+  return finish(host, name, std::move(file), error);
+}
+
+int copyFile(HostOps& host, const std::string& from, const std::string& to) {
+  std::unique_ptr<HostFile> file;
+  const int notCloned = host.clone(from, to);
+  if (notCloned == EEXIST) return EEXIST;
+  if (notCloned == 0) {
+    const int error = host.open(to, HostOpenMode::read, file);
+    return finish(host, to, std::move(file), error);
+  }
+  std::unique_ptr<HostFile> in;
+  if (const int error = host.open(from, HostOpenMode::read, in); error != 0) return error;
+  if (const int error = host.open(to, HostOpenMode::createNew, file); error != 0) return error;
+  const int error = copyInto(*file, *in);
+  return finish(host, to, std::move(file), error);
+}
+
+std::string copyBeside(HostOps& host, const std::string& source, const std::string& target) {
+  HostStatus model;
+  raise(host.status(source, model));
+  std::string name =
+      createBeside(target, [&](const std::string& made) { return copyFile(host, source, made); });
+  keepIdentity(host, name, model);
+  return name;
+}
+
 void keepIdentity(HostOps& host, const std::string& name, const HostStatus& model) {
   // Only the superuser may give a file away; then the owner is the one who saves.
   static_cast<void>(host.setOwner(name, model.owner, model.group));
   static_cast<void>(host.setMode(name, model.mode));
+}
+
+void addName(HostOps& host, const std::string& file, const std::string& name) {
+  const int notLinked = host.link(file, name);
+  if (notLinked == EEXIST) raise(EEXIST);
+  if (notLinked != 0) {
+    const std::string copy = copyBeside(host, file, name);
+    if (const int error = host.renameNew(copy, name); error != 0) {
+      static_cast<void>(host.remove(copy));
+      raise(error);
+    }
+  }
+  syncFolderOf(host, name);
 }
 
 void moveFile(HostOps& host, const std::string& from, const std::string& to, bool over) {
@@ -114,8 +144,8 @@ void replaceContent(HostOps& host, const std::string& name, std::string_view con
   const std::string target = followLinks(host, name);
   HostStatus old;
   raise(host.status(target, old));
-  const std::string made =
-      createBeside(host, target, [&](HostFile& file) { return file.write(content); });
+  const std::string made = createBeside(
+      target, [&](const std::string& beside) { return makeFile(host, beside, content); });
   if (old.kind != HostStatus::Kind::missing) keepIdentity(host, made, old);
   if (const int error = host.renameOver(made, target); error != 0) {
     static_cast<void>(host.remove(made));

@@ -18,6 +18,20 @@ std::string followLinks(HostOps& host, std::string name);
 /// Gives a file a mode and, where the system allows it, an owner.
 void keepIdentity(HostOps& host, const std::string& name, const HostStatus& model);
 
+/// Makes a new file and has it on the medium; on an error none is left. EEXIST if the name is
+/// taken.
+int makeFile(HostOps& host, const std::string& name, std::string_view content);
+
+/// The same with the bytes of another file, which are shared where the file system can.
+int copyFile(HostOps& host, const std::string& from, const std::string& to);
+
+/// Copies a file, with its mode and owner, to a new name in the folder of `target`, and returns it.
+std::string copyBeside(HostOps& host, const std::string& source, const std::string& target);
+
+/// Gives a file a further name, or makes a copy under it where a file can have but one. Throws
+/// fileAlreadyExists (58) if the name is taken.
+void addName(HostOps& host, const std::string& file, const std::string& name);
+
 /// Moves a file to a name, in one step on the same file system, by way of a copy in the target's
 /// folder on another. `over` says whether the target may exist; if it may not and does, the error
 /// is fileAlreadyExists (58).

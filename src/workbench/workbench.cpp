@@ -1,8 +1,32 @@
 #include "workbench/workbench.h"
 
+#include "builders/figures/library_file.h"
+#include "builders/figures/master_cr2.h"
+#include "builders/figures/null_figure.h"
+#include "builders/geometry/alternate_geometry.h"
+#include "builders/phi/create_phi.h"
+#include "builders/phi/cut_branch.h"
+#include "builders/phi/edit_phi.h"
+#include "builders/phi/phi_lister.h"
+#include "builders/phi/view_phi.h"
+#include "builders/scenes/avi_background.h"
+#include "builders/scenes/camera_convertor.h"
+#include "builders/scenes/mtl_creator.h"
+#include "builders/scenes/pz3_to_cr2.h"
+#include "builders/transfer/extract_part.h"
+#include "builders/transfer/graft_part.h"
+#include "channels/actor_double_click.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
-#include "channels/trash.h"
+#include "channels/dials/dial_tools.h"
+#include "channels/joints/joints.h"
+#include "channels/mirror/extract.h"
+#include "channels/mirror/mirror.h"
+#include "channels/renaming/rename.h"
+#include "channels/removal/trash.h"
+#include "erc/change_ratio.h"
+#include "erc/link_builder.h"
+#include "erc/ratio_listing.h"
 #include "figure/bracket_checker.h"
 #include "figure/map_lister.h"
 #include "figure/material_lister.h"
@@ -11,12 +35,16 @@
 #include "figure/save.h"
 #include "figure/source_open.h"
 #include "front/help_boxes.h"
+#include "front/history_limits.h"
+#include "front/scratch_files.h"
 #include "lifecycle/closing_animation.h"
 #include "lifecycle/exit.h"
 #include "lifecycle/file_menu.h"
 #include "lifecycle/help_menu.h"
 #include "lifecycle/recent_click.h"
 #include "lifecycle/start.h"
+#include "materials/material_colour.h"
+#include "materials/material_coordinator.h"
 #include "obj/fall_back_view.h"
 #include "obj/hot_keys.h"
 #include "obj/leaving.h"
@@ -26,6 +54,12 @@
 #include "obj/spin.h"
 #include "obj/view.h"
 #include "obj/view_keys.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_colours.h"
+#include "pose/mor_builder.h"
+#include "pose/pz2_editor.h"
+#include "pose/weld.h"
+#include "text/history.h"
 
 namespace norvik::workbench {
 
@@ -33,9 +67,29 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
                      std::string programFolder, std::string commandLine)
     : session_(front, disk, settings, opening_), workshop_(session_, formObj_) {
   session_.addForm(formObj_);
+  session_.addForm(dialogErc_);
+  session_.addForm(formEcm_);
+  session_.addForm(formListEmcs_);
+  session_.addForm(formPhi_);
+  session_.addForm(formTree_);
+  session_.addForm(formMatCoord_);
+  session_.addForm(formPZ2_);
+  session_.addForm(formMOR_);
+  session_.addForm(formPZ2Combine_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
+  setUpHistory();
+}
+
+void Workbench::setUpHistory() {
+  text::History* const history = session_.disk.history();
+  if (history == nullptr) return;
+  history->setClock([this] { return session_.front.now(); });
+  history->setLimits([this] { return front::historyLimits(session_.settings); });
+  text::ignoringErrors([&] {
+    history->setScratchFiles(session_.disk.hostPath(opening_.ProgramFolder), front::isScratchFile);
+  });
 }
 
 void Workbench::wireTools() {
@@ -51,6 +105,37 @@ void Workbench::wireTools() {
   channels::wireChannelViews(session_);
   channels::wireCopyMorph(session_);
   channels::wireTrash(session_);
+  channels::wireRename(session_);
+  channels::wireActorDoubleClick(session_);
+  channels::wireDialTools(session_);
+  channels::wireMirror(session_);
+  channels::wireExtract(session_);
+  channels::wireJoints(session_);
+  erc::wireLinkBuilder(session_, dialogErc_, formEcm_);
+  erc::wireRatioListing(session_, formListEmcs_);
+  erc::wireChangeRatio(session_, formListEmcs_);
+  builders::wireMasterCr2(session_);
+  builders::wireNullFigure(session_);
+  builders::wireLibraryFile(session_);
+  builders::wireExtractPart(session_);
+  builders::wireGraftPart(session_);
+  builders::wireCreatePhi(session_, formPhi_);
+  builders::wireViewPhi(session_, formPhi_);
+  builders::wireEditPhi(session_, formPhi_);
+  builders::wirePhiLister(session_, formTree_);
+  builders::wireCutBranch(session_, formTree_);
+  builders::wireAlternateGeometry(session_);
+  builders::wirePz3ToCr2(session_);
+  builders::wireAviBackground(session_);
+  builders::wireCameraConvertor(session_);
+  builders::wireMtlCreator(session_);
+  materials::wireMaterialColours(session_);
+  materials::wireMaterialCoordinator(session_, formMatCoord_);
+  pose::wirePz2Editor(session_, formPZ2_);
+  pose::wireMatColours(session_, formPZ2_);
+  pose::wireDonePZ2(session_, formPZ2_);
+  pose::wireMorBuilder(session_, formMOR_);
+  pose::wireWelder(session_, formPZ2Combine_);
   obj::wireOpenWorkshop(workshop_);
   obj::wireView(workshop_);
   obj::wireFallBackView(workshop_);
@@ -68,7 +153,7 @@ void Workbench::wireTools() {
 }
 
 void Workbench::start() {
-  session_.deliver([this] { lifecycle::startProgram(session_); });
+  session_.deliver(opening_.name(), [this] { lifecycle::startProgram(session_); });
 }
 
 }  // namespace norvik::workbench

@@ -1,9 +1,18 @@
 #pragma once
 // The assembly of the program: the forms, and every tool on its trigger.
 
+#include "builders/phi/form_phi.h"
+#include "builders/phi/form_tree.h"
+#include "erc/dialog_erc.h"
+#include "erc/form_ecm.h"
+#include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
+#include "materials/form_mat_coord.h"
 #include "obj/workshop.h"
+#include "pose/form_mor.h"
+#include "pose/form_pz2.h"
+#include "pose/form_pz2_combine.h"
 
 #include <string>
 
@@ -25,9 +34,19 @@ class Workbench {
 
  private:
   void wireTools();
+  void setUpHistory();
 
   front::Opening opening_;
   front::FormOBJ formObj_;
+  erc::DialogERC dialogErc_;
+  erc::FormECM formEcm_;
+  erc::FormListEMCs formListEmcs_;
+  builders::FormPhi formPhi_;
+  builders::FormTree formTree_;
+  materials::FormMatCoord formMatCoord_;
+  pose::FormPZ2 formPZ2_;
+  pose::FormMOR formMOR_;
+  pose::FormPZ2Combine formPZ2Combine_;
   front::Session session_;
   obj::Workshop workshop_;
 };

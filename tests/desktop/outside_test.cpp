@@ -80,12 +80,12 @@ TEST_F(OutsideTest, LinesArePrintedOnAsManyPagesAsTheyNeed) {
     return true;
   };
   ASSERT_TRUE(frontEnd.printerDialog());
-  frontEnd.print("Courier", {"one line"});
+  frontEnd.print("Courier", {"one line"}, 1);
   const QByteArray one = bytesOf("list.pdf");
   EXPECT_TRUE(one.startsWith("%PDF-"));
   EXPECT_EQ(one.count("/Type /Page\n"), 1);
 
-  frontEnd.print("Courier", std::vector<std::string>(200, "\tfirst\xE9\tsecond"));
+  frontEnd.print("Courier", std::vector<std::string>(200, "\tfirst\xE9\tsecond"), 0);
   const auto pages = bytesOf("list.pdf").count("/Type /Page\n");
   EXPECT_GE(pages, 2);
   EXPECT_LE(pages, 8);

@@ -65,7 +65,8 @@ TEST_P(BoxTest, HasTheIconAndTheButtonsOfItsStyle) {
   });
   WindowAsker asker;
   EXPECT_EQ(
-      asker.box({QStringLiteral("Alert!"), QStringLiteral("a < b & c"), wanted.style, {}, false}),
+      asker.box(
+          {QStringLiteral("Alert!"), QStringLiteral("a < b & c"), wanted.style, {}, false, {}}),
       wanted.onEscape);
   EXPECT_TRUE(seen);
 }
@@ -171,6 +172,24 @@ TEST_F(ChooserTest, TakesAName) {
 
 TEST_F(ChooserTest, EntersAFolder) {
   EXPECT_EQ(typed(QStringLiteral("C:\\below")), std::nullopt);
+}
+
+TEST(WindowAskerTest, AQuestionWaitsWhileTheChangesAreShown) {
+  bool seen = false;
+  whenUp<QMessageBox>([&](QMessageBox& box) {
+    QTimer::singleShot(50, &box, [&] {
+      QWidget* changes = QApplication::activeModalWidget();
+      seen = changes->objectName() == QStringLiteral("ChangesWindow");
+      changes->close();
+    });
+    box.findChild<QPushButton*>(QStringLiteral("ShowChanges"))->click();
+    EXPECT_TRUE(box.isVisible());
+    box.button(QMessageBox::Yes)->click();
+  });
+  WindowAsker asker;
+  const ComparedFiles files{"/nowhere/a", "/nowhere/b", {}, {}};
+  EXPECT_EQ(asker.box({.style = front::kYesNo, .changes = files}), front::Answer::yes);
+  EXPECT_TRUE(seen);
 }
 
 TEST(WindowAskerTest, AColourIsTheOneThatIsChosen) {

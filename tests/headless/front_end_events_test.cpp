@@ -56,7 +56,7 @@ TEST_F(FrontEndEvents, ThePrinterIsAcceptedOrCancelled) {
 }
 
 TEST_F(FrontEndEvents, LinesArePrinted) {
-  bench.front.print("Courier", {"one", "", "\"two\"\t\xE9"});
+  bench.front.print("Courier", {"one", "", "\"two\"\t\xE9"}, 2);
   EXPECT_EQ(bench.takeEvents(), (Lines{"{\"event\":\"print\",\"font\":\"Courier\",\"lines\":"
                                        "[\"one\",\"\",\"\\\"two\\\"\\t\u00E9\"]}"}));
 }

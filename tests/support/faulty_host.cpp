@@ -182,6 +182,15 @@ int FaultyHost::renameNew(const std::string& from, const std::string& to) {
 int FaultyHost::remove(const std::string& name) {
   return perform([&] { return real_.remove(name); });
 }
+int FaultyHost::link(const std::string& file, const std::string& name) {
+  return perform([&] { return acrossFolders(file, name) ? EXDEV : real_.link(file, name); });
+}
+int FaultyHost::clone(const std::string& file, const std::string& name) {
+  return perform([&] { return acrossFolders(file, name) ? EXDEV : real_.clone(file, name); });
+}
+int FaultyHost::removeFolder(const std::string& name) {
+  return perform([&] { return real_.removeFolder(name); });
+}
 int FaultyHost::makeFolder(const std::string& name) {
   return perform([&] { return real_.makeFolder(name); });
 }

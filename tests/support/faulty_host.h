@@ -51,7 +51,8 @@ class FaultyHost final : public text::HostOps {
   bool faultMet() const { return met_; }
   std::uint64_t operations() const { return operations_; }
 
-  /// From now on a rename from one folder to another fails as between two file systems.
+  /// From now on a rename from one folder to another fails as between two file systems, and so does
+  /// a further name.
   void separateFolders() { foldersSeparate_ = true; }
 
   int open(const std::string& name, text::HostOpenMode mode,
@@ -62,6 +63,9 @@ class FaultyHost final : public text::HostOps {
   int renameOver(const std::string& from, const std::string& to) override;
   int renameNew(const std::string& from, const std::string& to) override;
   int remove(const std::string& name) override;
+  int link(const std::string& file, const std::string& name) override;
+  int clone(const std::string& file, const std::string& name) override;
+  int removeFolder(const std::string& name) override;
   int makeFolder(const std::string& name) override;
   int setMode(const std::string& name, unsigned mode) override;
   int setOwner(const std::string& name, unsigned owner, unsigned group) override;

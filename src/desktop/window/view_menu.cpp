@@ -6,7 +6,7 @@
 
 namespace norvik::desktop {
 
-void addViewMenu(QMenuBar& bar, const ViewChoices& choices) {
+QMenu* addViewMenu(QMenuBar& bar, const ViewChoices& choices) {
   struct Entry {
     Theme theme;
     const char* caption;
@@ -32,6 +32,7 @@ void addViewMenu(QMenuBar& bar, const ViewChoices& choices) {
   animation->setCheckable(true);
   animation->setChecked(choices.closingAnimation);
   QObject::connect(animation, &QAction::toggled, menu, choices.chooseClosingAnimation);
+  return menu;
 }
 
 }  // namespace norvik::desktop

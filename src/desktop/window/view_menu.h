@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QMenu;
 class QMenuBar;
 
 namespace norvik::desktop {
@@ -18,6 +19,6 @@ struct ViewChoices {
 
 /// Adds the menu View behind those of the program: it changes how the window looks and nothing
 /// else.
-void addViewMenu(QMenuBar& bar, const ViewChoices& choices);
+QMenu* addViewMenu(QMenuBar& bar, const ViewChoices& choices);
 
 }  // namespace norvik::desktop

@@ -1,0 +1,73 @@
+#include "builders/scenes/figure_sections.h"
+
+#include "text/columns.h"
+#include "text/line_filter.h"
+#include "text/line_scan.h"
+
+#include <algorithm>
+
+namespace norvik::builders {
+
+namespace {
+
+/// Whether a line that begins so may be a section's first or the file's own bracket.
+bool isAtMargin(char first) {
+  return first != ' ' && first != '\t' && !text::isLineEnd(first);
+}
+
+bool isBrace(char first) {
+  return first == '{' || first == '}';
+}
+
+/// The offset of the first line from `start` on that begins at the margin, or the text's size.
+/// `start` is that of a line.
+std::size_t findMarginLine(std::string_view lines, std::size_t start) {
+  while (start < lines.size() && !isAtMargin(lines[start])) {
+    start = std::min(text::findLineEnd(lines, start) + 1, lines.size());
+  }
+  return start;
+}
+
+}  // namespace
+
+void FigureSections::add(std::string_view lines) {
+  for (std::size_t at = 0; at < lines.size();) {
+    const std::size_t margin = findMarginLine(lines, at);
+    addText(lines.substr(at, margin - at));
+    if (margin == lines.size()) return;
+    const std::size_t end = text::findLineEnd(lines, margin);
+    enterLine(lines.substr(margin, end - margin));
+    // Of a CR LF the LF is left: an empty line that must not be written.
+    at = end;
+    if (at < lines.size()) at += text::holds(lines.substr(at, 2), "\r\n") ? 2 : 1;
+  }
+}
+
+void FigureSections::enterLine(std::string_view line) {
+  if (!isBrace(line.front())) kept_ = enterSection(line);
+  if (kept_ || line.front() == '}') out_.line(line);
+  if (kept_ && inSection_ && text::holds(line, "setGeom")) endsFigure_ = true;
+}
+
+bool FigureSections::enterSection(std::string_view line) {
+  if (endsFigure_) range_ = Range::behindFigure;
+  inSection_ = true;
+  endsFigure_ = false;
+  const bool settingsBegin = text::begins(line, "doc");
+  if (range_ != Range::settings && settingsBegin) range_ = Range::settings;
+  const bool universe = line == "actor UNIVERSE";
+  if (range_ == Range::settings && universe) range_ = Range::figure;
+  if (range_ != Range::figure || universe) return false;
+  if (text::begins(line, "figureResFile")) return true;
+  return !text::begins(line, "prop GROUND") && !text::holds(line, "LIGHT") &&
+         !text::holds(line, "CAMERA");
+}
+
+void FigureSections::addText(std::string_view lines) {
+  if (!kept_ || lines.empty()) return;
+  out_.lines(lines);
+  static const text::LineFilter figureEnd{text::anywhere("setGeom")};
+  if (inSection_ && !endsFigure_) endsFigure_ = figureEnd.find(lines) < lines.size();
+}
+
+}  // namespace norvik::builders
