@@ -195,6 +195,7 @@ void DesktopFrontEnd::showModal(front::Form& form, const std::function<void()>& 
   dispatcher_.sync();
   stage_->show(form, true);
   shown();
+  dispatcher_.sync();
   const Dispatcher::Door door(dispatcher_);
   while (form.loaded()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
