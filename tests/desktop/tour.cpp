@@ -126,6 +126,7 @@ void takeHistory(desktop::Program& program, desktop::Operator& hand, const Photo
                  const QString& figure) {
   hand.willPress(u"Yes"_s);
   hand.willChoose(figure);
+  hand.willPress(u"Yes"_s);  // the dialog asks as well
   hand.click(u"PictureCopyToDest"_s);
   program.mainWindow().findChild<QAction*>(u"History"_s)->trigger();
   auto* window = program.mainWindow().findChild<QWidget*>(u"HistoryWindow"_s);
