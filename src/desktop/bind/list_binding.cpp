@@ -159,7 +159,7 @@ bool ListBinding::key(const QKeyEvent& event) {
   if (list_.key.hasHandlers()) {
     const std::string name = keyName(event);
     if (!name.empty()) raise(list_.key, name);
-    if (name == "Delete") return true;
+    if (name == "Delete" || name.starts_with("Alt+")) return true;
     // Escape goes on to a form that waits for it, Enter to what it does in a list.
     if (name == "Escape" && !list_.form().key.hasHandlers()) return true;
     if (name == "Enter" && !list_.clicked.hasHandlers() && !list_.doubleClicked.hasHandlers()) {

@@ -222,6 +222,10 @@ std::string keyName(const QKeyEvent& event) {
     case Qt::Key_Delete:
       name = "Delete";
       break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (!event.modifiers().testFlag(Qt::AltModifier)) return {};
+      return event.key() == Qt::Key_Up ? "Alt+Up" : "Alt+Down";
     default:
       if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12) {
         name = "F" + std::to_string(event.key() - Qt::Key_F1 + 1);

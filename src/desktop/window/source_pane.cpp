@@ -35,12 +35,8 @@ QWidget* makeChannelLists(Maker& maker, front::Opening& opening, QWidget& parent
     front::ListBox* list;
     const char* name;
   };
-  for (const Named& named :
-       {Named{&opening.ListChannelsReorder, "All channels"},
-        Named{&opening.ListChannelsReorderByPart, "Channels of the part"},
-        Named{&opening.ListChannelsReorderNewOrder, "Channels in their new order"},
-        Named{&opening.ListChannelsReorderReordered, "Reordered channels"},
-        Named{&opening.ListEMCs, "Remote controls"}}) {
+  for (const Named& named : {Named{&opening.ListChannelsReorderReordered, "Reordered channels"},
+                             Named{&opening.ListEMCs, "Remote controls"}}) {
     auto& view = maker.list(*named.list, *lists);
     view.setAccessibleName(QString::fromLatin1(named.name));
     lists->addWidget(&view);
@@ -77,9 +73,7 @@ QWidget* makeSourcePane(Maker& maker, front::Opening& opening, QWidget& parent) 
 
   maker.showWhileAny(
       *pane, {&opening.LabelChannelFileName, &opening.ListChannels, &opening.LabelOpenSource,
-              &opening.ListChannelsReorder, &opening.ListChannelsReorderByPart,
-              &opening.ListChannelsReorderNewOrder, &opening.ListChannelsReorderReordered,
-              &opening.ListEMCs});
+              &opening.ListChannelsReorderReordered, &opening.ListEMCs});
   return pane;
 }
 
