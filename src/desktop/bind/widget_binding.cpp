@@ -1,6 +1,7 @@
 #include "desktop/bind/widget_binding.h"
 
 #include "desktop/bind/drag.h"
+#include "desktop/bind/drop_mark.h"
 #include "desktop/words.h"
 #include "front/form.h"
 
@@ -33,6 +34,7 @@ WidgetBinding::WidgetBinding(Dispatcher& dispatcher, front::Control& control, QW
   widget.setObjectName(QString::fromStdString(control.name()));
   const bool takesRight = control.pressed.hasHandlers() || control.released.hasHandlers();
   if (takesRight) widget.setContextMenuPolicy(Qt::NoContextMenu);
+  if (control.dropped.hasHandlers()) markAsTarget(widget);
   watch(widget);
 }
 

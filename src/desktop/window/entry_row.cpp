@@ -60,12 +60,8 @@ class Row {
 }  // namespace
 
 QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
-  constexpr int kName = 260;
   constexpr int kNumber = 90;
   Row row(maker, parent);
-  row.add(opening.TextMorphRename, "New name", kName);
-  row.add(opening.OptionChannelRename);
-  row.add(opening.OptionBodyPartRename);
   row.add(opening.TextOBJScale, "Scale", kNumber);
   row.add(opening.SliderOBJScale);
   row.add(opening.CheckOBJBatch);
@@ -73,9 +69,8 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
   QWidget* widget = row.finish();
   maker.showWhileAny(*widget,
-                     {&opening.TextMorphRename, &opening.OptionChannelRename,
-                      &opening.OptionBodyPartRename, &opening.TextOBJScale, &opening.SliderOBJScale,
-                      &opening.CheckOBJBatch, &opening.FrameMash, &opening.FrameExtractObj});
+                     {&opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
+                      &opening.FrameMash, &opening.FrameExtractObj});
   return widget;
 }
 

@@ -3,11 +3,14 @@
 #include "desktop/bind/drag.h"
 #include "desktop/window/dial_cards.h"
 #include "desktop/window/dial_row.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/overlays.h"
 #include "desktop/window/panes.h"
 #include "desktop/window/place.h"
 #include "desktop/window/recent_menu.h"
+#include "desktop/window/rename_row.h"
 #include "desktop/window/splash_page.h"
+#include "desktop/window/tool_hints.h"
 #include "desktop/window/tool_strip.h"
 #include "desktop/window/view_menu.h"
 #include "desktop/words.h"
@@ -58,6 +61,7 @@ MainWindow::~MainWindow() = default;
 void MainWindow::makeMenus() {
   menus_ = std::make_unique<MenuTree>(maker_.dispatcher(), maker_.bindings(), opening_, *menuBar());
   addRecentMenu(*menus_, maker_.dispatcher(), opening_);
+  hintAtCameras(*menus_, session_);
   menus_->action(opening_.MenuFileOpen)->setShortcut(QKeySequence::Open);
   menus_->action(opening_.MenuFileSave)->setShortcut(QKeySequence::Save);
   menus_->action(opening_.MenuFileSaveAs)
@@ -66,7 +70,12 @@ void MainWindow::makeMenus() {
   menus_->action(opening_.menuScreenRes)->setShortcut(QKeySequence(Qt::Key_F11));
   menus_->action(opening_.MenuHelp)->setShortcut(QKeySequence(Qt::Key_F1));
   const Theme present = themeNamed(session_.settings.get(kWindowSection, kThemeKey, "system"));
-  addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  QMenu* view = addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  view->addSeparator();
+  QAction* filter = view->addAction(QStringLiteral("&Filter the List"));
+  filter->setObjectName(QStringLiteral("FilterList"));
+  filter->setShortcut(QKeySequence::Find);
+  connect(filter, &QAction::triggered, this, [this] { openFilter(*this); });
 }
 
 void MainWindow::makeCentre() {
@@ -74,6 +83,7 @@ void MainWindow::makeCentre() {
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
+  column->addWidget(makeRenameRow(maker_, opening_, *centre));
   column->addWidget(makeEntryRow(maker_, opening_, *centre));
   column->addWidget(makeDialRow(maker_, opening_, *centre));
 
@@ -87,6 +97,7 @@ void MainWindow::makeCentre() {
   panes->setObjectName(QStringLiteral("Panes"));
   panes->setChildrenCollapsible(false);
   panes->addWidget(makeDestinationPane(maker_, opening_, *panes));
+  hintAtGeometries(*panes->findChild<ListView*>(QStringLiteral("ListAltGeomActors")), session_);
   sourcePane_ = makeSourcePane(maker_, opening_, *panes);
   panes->addWidget(sourcePane_);
   panes->setSizes({560, 480});
