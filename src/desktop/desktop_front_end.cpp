@@ -54,7 +54,22 @@ front::Answer DesktopFrontEnd::messageBox(std::string_view text, std::string_vie
                                           int style) {
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);
-  return asker_.box(shown(title), shownMessage(text), style);
+  const bool repeats =
+      repeated_ && title == *repeated_ && (style & front::kButtonMask) == front::kOkCancel;
+  if (!repeats) return asker_.box(shown(title), shownMessage(text), style);
+  if (okForAll_) return front::Answer::ok;
+  const auto answer = asker_.repeatedBox(shown(title), shownMessage(text), style);
+  okForAll_ = !answer;
+  return answer.value_or(front::Answer::ok);
+}
+
+void DesktopFrontEnd::beginRepeats(std::string_view title) {
+  repeated_ = title;
+  okForAll_ = false;
+}
+
+void DesktopFrontEnd::endRepeats() {
+  repeated_.reset();
 }
 
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
@@ -104,7 +119,14 @@ void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string
                             std::size_t headingLines) {
   QStringList page;
   for (const std::string& line : lines) page << shown(line);
-  printLines(printer(), shown(font), page, static_cast<int>(headingLines));
+  const auto paint = [&](QPrinter& pages) {
+    printLines(pages, shown(font), page, static_cast<int>(headingLines));
+  };
+  if (asker_.wantsPreview()) {
+    asker_.preview(printer(), paint);
+  } else {
+    paint(printer());
+  }
 }
 
 void DesktopFrontEnd::setHourglass(front::Form&, bool on) {

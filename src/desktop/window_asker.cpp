@@ -1,12 +1,15 @@
 #include "desktop/window_asker.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace norvik::desktop {
 
@@ -71,16 +74,30 @@ QWidget* owner() {
                                                       : QApplication::activeWindow();
 }
 
-}  // namespace
-
-front::Answer WindowAsker::box(const QString& title, const QString& text, int style) {
-  QMessageBox box(iconOf(style), title, text, buttonsOf(style), owner());
+void setUp(QMessageBox& box, int style) {
   box.setObjectName(QStringLiteral("MessageBox"));
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.setEscapeButton(escapeOf(style));
+}
+
+}  // namespace
+
+front::Answer WindowAsker::box(const QString& title, const QString& text, int style) {
+  QMessageBox box(iconOf(style), title, text, buttonsOf(style), owner());
+  setUp(box, style);
   const int button = box.exec();
   // A box that goes away unanswered, with its window, says what the escape key says.
+  return answerOf(button == QDialog::Rejected ? int{escapeOf(style)} : button);
+}
+
+std::optional<front::Answer> WindowAsker::repeatedBox(const QString& title, const QString& text,
+                                                      int style) {
+  QMessageBox box(iconOf(style), title, text, buttonsOf(style), owner());
+  setUp(box, style);
+  const auto* all = box.addButton(QStringLiteral("OK for &all"), QMessageBox::YesRole);
+  const int button = box.exec();
+  if (box.clickedButton() == all) return std::nullopt;
   return answerOf(button == QDialog::Rejected ? int{escapeOf(style)} : button);
 }
 
@@ -106,7 +123,27 @@ std::optional<front::Colour> WindowAsker::colour(front::Colour initial) {
 bool WindowAsker::printer(QPrinter& printer) {
   QPrintDialog dialog(&printer, owner());
   dialog.setObjectName(QStringLiteral("PrintDialog"));
-  return dialog.exec() == QDialog::Accepted;
+  // The dialog takes its further tabs over.
+  auto* pages = new QWidget;
+  pages->setWindowTitle(QStringLiteral("Preview"));
+  auto* first = new QCheckBox(QStringLiteral("&Show the pages first"), pages);
+  first->setObjectName(QStringLiteral("PreviewFirst"));
+  first->setChecked(preview_);
+  auto* column = new QVBoxLayout(pages);
+  column->addWidget(first);
+  column->addStretch();
+  dialog.setOptionTabs({pages});
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  preview_ = first->isChecked();
+  return accepted;
+}
+
+void WindowAsker::preview(QPrinter& printer, const std::function<void(QPrinter&)>& paint) {
+  QPrintPreviewDialog dialog(&printer, owner());
+  dialog.setObjectName(QStringLiteral("PrintPreview"));
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested,
+                   [&paint](QPrinter* pages) { paint(*pages); });
+  dialog.exec();
 }
 
 }  // namespace norvik::desktop

@@ -8,9 +8,16 @@ namespace norvik::desktop {
 class WindowAsker : public Asker {
  public:
   front::Answer box(const QString& title, const QString& text, int style) override;
+  std::optional<front::Answer> repeatedBox(const QString& title, const QString& text,
+                                           int style) override;
   std::optional<QString> file(const File& file) override;
   std::optional<front::Colour> colour(front::Colour initial) override;
   bool printer(QPrinter& printer) override;
+  bool wantsPreview() const override { return preview_; }
+  void preview(QPrinter& printer, const std::function<void(QPrinter&)>& paint) override;
+
+ private:
+  bool preview_ = false;
 };
 
 }  // namespace norvik::desktop
