@@ -1,6 +1,7 @@
 #pragma once
 // The questions that the front end puts to the operator.
 
+#include "desktop/history/changes_window.h"
 #include "front/front_end.h"
 
 #include <QPrinter>
@@ -20,6 +21,11 @@ class Asker {
   /// A box with OK and Cancel that may come again: none is OK for this one and all that follow.
   virtual std::optional<front::Answer> repeatedBox(const QString& title, const QString& text,
                                                    int style) {
+    return box(title, text, style);
+  }
+  /// The same, with a way to look at what a Yes would change before it is said.
+  virtual front::Answer boxWithChanges(const QString& title, const QString& text, int style,
+                                       const ComparedFiles&) {
     return box(title, text, style);
   }
 

@@ -84,7 +84,9 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
  private:
   static constexpr int kTile = 64;
 
+  std::optional<ComparedFiles> changesOnOffer(int style) const;
   QString hostFolder(const std::string& folder) const;
+  front::Answer repeatedBox(std::string_view text, std::string_view title, int style);
   QString proposedName(const std::string& file) const;
   QPrinter& printer();
 

@@ -10,6 +10,8 @@ class WindowAsker : public Asker {
   front::Answer box(const QString& title, const QString& text, int style) override;
   std::optional<front::Answer> repeatedBox(const QString& title, const QString& text,
                                            int style) override;
+  front::Answer boxWithChanges(const QString& title, const QString& text, int style,
+                               const ComparedFiles& files) override;
   std::optional<QString> file(const File& file) override;
   std::optional<front::Colour> colour(front::Colour initial) override;
   bool printer(QPrinter& printer) override;

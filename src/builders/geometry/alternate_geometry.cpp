@@ -19,9 +19,6 @@ constexpr std::string_view kFigureResult = "\\AltGeom.cr2";
 constexpr std::string_view kPropResult = "\\AltGeom.pp2";
 constexpr std::string_view kScratch = "\\AltGeom.tmp";
 
-constexpr std::string_view kParent = "\tparent";
-constexpr std::string_view kAlternate = "\talternateGeom";
-constexpr std::string_view kBlockEnd = "\t\t}";
 constexpr std::string_view kChannel = "geomChan";
 constexpr std::string_view kChannelMost = "\t\t\tmax";
 constexpr std::string_view kChannelHeadEnd = "interpStyleLocked";
@@ -84,7 +81,9 @@ class PassingFile {
 
 /// The OBJ that the operator picks, if it is one of Poser's geometries.
 std::optional<std::string> askForGeometry(front::Session& session) {
-  front::CommonDialog& dialog = session.opening.CommonDialog1;
+  // Shared with the path box, which proposes a name of its own each time.
+  front::CommonDialog& dialog = session.opening.CommonDialog4;
+  dialog.setFileName("");
   const std::string folder = session.settings.get("Startup", "PLoc", "0") + "Runtime\\Geometries";
   if (!dialog.open(session.front, folder, "Open Alternate Geometry OBJ")) return std::nullopt;
   if (!text::holds(dialog.fileName(), "Geometries")) return std::nullopt;
@@ -103,13 +102,13 @@ void copyToActor(text::RewritePass& pass, const std::string& actor, bool prop) {
 /// Copies the geometries that the actor has and counts them. The line behind them is read, not
 /// written, and returned.
 std::string copyAlternates(text::RewritePass& pass, int& count) {
-  text::copyThrough(pass, {atStart(kParent)},
-                    [](std::string_view line) { return text::begins(line, kParent); });
+  text::copyThrough(pass, {atStart(kGeometryParent)},
+                    [](std::string_view line) { return text::begins(line, kGeometryParent); });
   std::string line{pass.in().line()};
-  while (text::begins(line, kAlternate)) {
+  while (text::begins(line, kGeometryLine)) {
     ++count;
     pass.out().line(line);
-    text::copyThrough(pass, {atStart(kBlockEnd)}, equalTo(kBlockEnd));
+    text::copyThrough(pass, {atStart(kGeometryEnd)}, equalTo(kGeometryEnd));
     line = pass.in().line();
   }
   return line;
@@ -133,9 +132,9 @@ void raiseDial(text::RewritePass& pass, int count) {
 /// Copies through the end of the actor's channels, `line` being the first. Any dial in them counts
 /// as the actor's own; without one it is written in front of their end.
 void copyChannels(text::RewritePass& pass, std::string line, std::string_view actor, int count) {
-  static const text::LineFilter stops{anywhere(kChannel), atStart(kBlockEnd)};
+  static const text::LineFilter stops{anywhere(kChannel), atStart(kGeometryEnd)};
   const auto isDial = text::holding(kChannel);
-  const auto stopsAt = [&](std::string_view text) { return text == kBlockEnd || isDial(text); };
+  const auto stopsAt = [&](std::string_view text) { return text == kGeometryEnd || isDial(text); };
   if (!stopsAt(line)) {
     pass.out().line(line);
     line = text::copyUpTo(pass, stops, stopsAt);
@@ -145,7 +144,7 @@ void copyChannels(text::RewritePass& pass, std::string line, std::string_view ac
   pass.out().line(line);
   if (!hasDial) return;
   raiseDial(pass, count);
-  text::copyThrough(pass, {atStart(kBlockEnd)}, equalTo(kBlockEnd));
+  text::copyThrough(pass, {atStart(kGeometryEnd)}, equalTo(kGeometryEnd));
 }
 
 /// Writes the opened file with one more geometry. False when the operator picks none.

@@ -8,6 +8,12 @@
 
 namespace norvik::builders {
 
+/// The line behind which an actor's geometries stand, one block behind the other.
+inline constexpr std::string_view kGeometryParent = "\tparent";
+/// How the first line of such a block begins, and its last one.
+inline constexpr std::string_view kGeometryLine = "\talternateGeom";
+inline constexpr std::string_view kGeometryEnd = "\t\t}";
+
 /// One more geometry of an actor.
 struct AlternateGeometry {
   std::string actor;  ///< without its figure number

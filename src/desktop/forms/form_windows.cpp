@@ -1,7 +1,14 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/link_dialog_window.h"
+#include "desktop/forms/link_window.h"
+#include "desktop/forms/material_coordinator_window.h"
+#include "desktop/forms/mor_window.h"
 #include "desktop/forms/phi_window.h"
+#include "desktop/forms/pose_window.h"
+#include "desktop/forms/ratio_window.h"
 #include "desktop/forms/tree_window.h"
+#include "desktop/forms/weld_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -21,19 +28,29 @@ std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& p
                                       parts.unload, parts.parent);
 }
 
-std::unique_ptr<FormWindow> makePhi(front::Form& form, const WindowParts& parts) {
-  return std::make_unique<PhiWindow>(parts, dynamic_cast<builders::FormPhi&>(form));
+template <typename Window, typename Form>
+std::unique_ptr<FormWindow> makeLaidOut(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<Window>(parts, dynamic_cast<Form&>(form));
 }
 
-std::unique_ptr<FormWindow> makeTree(front::Form& form, const WindowParts& parts) {
-  return std::make_unique<TreeWindow>(parts, dynamic_cast<builders::FormTree&>(form));
+std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<MaterialCoordinatorWindow>(parts.maker, parts.session,
+                                                     dynamic_cast<materials::FormMatCoord&>(form),
+                                                     parts.unload, parts.parent);
 }
 
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
+    {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
+    {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
+    {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
+    {"FormMatCoord", makeCoordinator},
     {"FormOBJ", makeWorkshop},
-    {"FormPhi", makePhi},
-    {"FormTree", makeTree},
+    {"FormPhi", makeLaidOut<PhiWindow, builders::FormPhi>},
+    {"FormTree", makeLaidOut<TreeWindow, builders::FormTree>},
+    {"FormPZ2", makeLaidOut<PoseWindow, pose::FormPZ2>},
+    {"FormMOR", makeLaidOut<MorWindow, pose::FormMOR>},
+    {"FormPZ2Combine", makeLaidOut<WeldWindow, pose::FormPZ2Combine>},
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/panes.h"
+#include "desktop/window/swatch_tips.h"
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
@@ -21,10 +23,19 @@ QWidget* makeParts(Maker& maker, front::Opening& opening, QWidget& parent) {
   column->addWidget(&heading);
   auto& actors = maker.list(opening.ListActors, *side);
   actors.setAccessibleName(QStringLiteral("Body parts"));
+  column->addWidget(new ListFilter(opening.ListActors, actors, *side));
   column->addWidget(&actors, 1);
-  for (front::ListBox* list : {&opening.ListAltGeomActors, &opening.ListboxListCR2Files}) {
-    column->addWidget(&maker.list(*list, *side), 1);
-  }
+  auto* geometries = new QLabel(QStringLiteral("Add a geometry to"), side);
+  makeHeading(*geometries);
+  maker.showWhileAny(*geometries, {&opening.ListAltGeomActors});
+  column->addWidget(geometries);
+  auto& altered = maker.list(opening.ListAltGeomActors, *side);
+  altered.setAccessibleName(QStringLiteral("Add a geometry to"));
+  altered.setToolTip(
+      QStringLiteral("Click a body part to give it another geometry. Right click to "
+                     "hide this list."));
+  column->addWidget(&altered, 1);
+  column->addWidget(&maker.list(opening.ListboxListCR2Files, *side), 1);
   maker.showWhileAny(*side, {&opening.LabelBodyParts, &opening.ListActors,
                              &opening.ListAltGeomActors, &opening.ListboxListCR2Files});
   return side;
@@ -45,8 +56,12 @@ QWidget* makeMaterials(Maker& maker, front::Opening& opening, QWidget& parent) {
     column->addWidget(&maker.list(*list, *side), 1);
   }
   auto* swatches = new QHBoxLayout;
-  swatches->addWidget(&maker.swatch(opening.PictureMatColor, *side));
-  swatches->addWidget(&maker.swatch(opening.PictureMatHiLite, *side));
+  auto& colour = maker.swatch(opening.PictureMatColor, *side);
+  keepSwatchTip(maker, opening, opening.PictureMatColor, opening.ListMATColors, colour);
+  swatches->addWidget(&colour);
+  auto& highlight = maker.swatch(opening.PictureMatHiLite, *side);
+  keepSwatchTip(maker, opening, opening.PictureMatHiLite, opening.ListMatHiLite, highlight);
+  swatches->addWidget(&highlight);
   swatches->addStretch();
   column->addLayout(swatches);
   maker.showWhileAny(*side,
