@@ -1,7 +1,14 @@
 #include "passes.h"
 
+#include "builders/transfer/graft_part.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
+#include "channels/removal/morph_removal.h"
+#include "channels/removal/part_removal.h"
+#include "channels/renaming/rename_passes.h"
+#include "erc/change_ratio.h"
+#include "erc/link_kinds.h"
+#include "erc/link_writer.h"
 #include "figure/actor_lister.h"
 #include "figure/bracket_count.h"
 #include "figure/check_sgi.h"
@@ -17,6 +24,12 @@
 #include "host.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
+#include "pose/mat_builder.h"
+#include "pose/mat_lister.h"
+#include "pose/mor_skeleton.h"
+#include "pose/part_lister.h"
+#include "pose/pose_builder.h"
+#include "pose/weld_merge.h"
 #include "text/line_reader.h"
 #include "workbench/workbench.h"
 
@@ -38,6 +51,12 @@ class Bench {
     opening.DestPath = path;
     opening.LabelFileNameForEditor.setCaption(path);
     opening.LabelChannelFileNameForEditor.setCaption(path);
+    front_.setStep([this] {
+      if (steps.empty()) return false;
+      opening.FileLabel.setCaption(steps.front());
+      steps.erase(steps.begin());
+      return true;
+    });
   }
 
   headless::Answers& answers() { return front_.answers(); }
@@ -59,6 +78,7 @@ class Bench {
   workbench::Workbench workbench{front_, disk, settings, "C:\\Norvik", ""};
   front::Session& session = workbench.session();
   front::Opening& opening = session.opening;
+  std::vector<std::string> steps;  ///< the files that are picked one after the other
 };
 
 /// A pass must have done its work to count.
@@ -135,6 +155,172 @@ void copyMorph(Bench& bench) {
   mustHold(bench.disk.exists("C:\\copied.cr2"), "nothing copied");
 }
 
+void removeMorph(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\XMorph.txt");
+  channels::removeItem(bench.session, pass,
+                       {channels::RemovedItem::Kind::morph, "lToeExtra300", {}}, "lToe:1");
+}
+
+void removePart(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\cr2.doc");
+  channels::removePart(pass, "abdomen:1");
+}
+
+void renameMorph(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\RenMorph.txt");
+  channels::renameMorph(pass, "lToeExtra300", "TheToe");
+}
+
+void renamePart(Bench& bench) {
+  text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\RenMorph.txt");
+  channels::renamePart(pass, {"head:1", "skull:1"});
+}
+
+constexpr const char* kLateEntry = "    lToe:1 * 5";
+constexpr const char* kLateDial = "lToe:1*lToeExtra300^ 5@lToeExtra300";
+
+void reorder(Bench& bench) {
+  bench.opening.ListChannelsReorderNewOrder.add(kLateDial);
+  bench.choose("reordered.cr2");
+  bench.opening.PictureChannelReorderDone.released.raise({});
+  mustHold(bench.disk.exists("C:\\reordered.cr2"), "nothing reordered");
+}
+
+void listAndHideDials(Bench& bench) {
+  bench.opening.menuHideDialsChannels.clicked.raise();
+  mustHold(bench.opening.ListHideDialsChannels.count() > 1, "no dials");
+  bench.choose("hidden.cr2");
+  bench.opening.CommandDialHideDone.clicked.raise();
+  mustHold(bench.disk.exists("C:\\hidden.cr2"), "nothing hidden");
+}
+
+void changeTrackingSpeed(Bench& bench) {
+  front::Opening& opening = bench.opening;
+  opening.ListChannelsReorder.add(kLateDial);
+  opening.ListChannelsReorder.choose(0);
+  opening.ListChannelsReorder.clicked.raise();
+  mustHold(!opening.TextTrackingSpeed.text().empty(), "no speed");
+  opening.TextTrackingSpeed.setText("0.03");
+  opening.TextTrackingSpeed.key.raise("Enter");
+}
+
+void mirrorMorph(Bench& bench) {
+  bench.opening.PictureMirror.show();
+  bench.opening.MirrorMorph = "lToeExtra300";
+  bench.opening.ListActors.add(kLateEntry);
+  bench.opening.ListActors.choose(0);
+  bench.answers().queueBox(front::Answer::no);
+  bench.opening.ListActors.doubleClicked.raise();
+  mustHold(bench.disk.exists("C:\\Norvik\\mirmorph.cr2"), "nothing mirrored");
+}
+
+void transferJoints(Bench& bench) {
+  front::Opening& opening = bench.opening;
+  opening.LabelFileName.setCaption("destination");
+  opening.LabelChannelFileName.setCaption("source");
+  for (front::ListBox* list : {&opening.ListChannels, &opening.ListActors}) {
+    list->add(kLateEntry);
+    list->choose(0);
+  }
+  opening.PictureJoints.released.raise({});
+  mustHold(bench.disk.exists("C:\\Norvik\\jointfile.txt"), "no joints");
+}
+
+void removeIkChains(Bench& bench) {
+  bench.answers().queueBox(front::Answer::yes);
+  bench.opening.MenuDumpIK.clicked.raise();
+}
+
+void makeUnique(Bench& bench) {
+  bench.opening.TextERCUnique.setText("Ann");
+  bench.opening.TextERCUnique.key.raise("Enter");
+  mustHold(bench.disk.exists("C:\\figure_Unique.cr2"), "no copy");
+}
+
+/// What FormECM holds behind its choices; the result stays in the scratch file.
+void writeLink(Bench& bench) {
+  erc::FormECM form;
+  form.LabelPBM.show();
+  form.TextPBM1.setText("lToeExtra300");
+  form.TextPBM2.setText("Figure 1");
+  form.TextPBM3.setText("lToeExtra299");
+  form.TextPBM4.setText("lToe");
+  form.TextPBMRatio.setText("1.000000");
+  bench.answers().queueBox(front::Answer::yes);
+  bench.answers().queueDialog({});
+  erc::writeLink(bench.session, form, *erc::kindOnView(form));
+  mustHold(bench.disk.exists("C:\\Norvik\\EMC.tmp"), "no link written");
+}
+
+void listLinks(Bench& bench) {
+  bench.opening.PictureChangeRatio.released.raise({});
+  const auto* form = dynamic_cast<erc::FormListEMCs*>(bench.session.findForm("FormListEMCs"));
+  mustHold(form != nullptr && form->ListEMCs.count() > 2, "no links listed");
+}
+
+/// The result stays in the scratch file here as well.
+void changeRatio(Bench& bench) {
+  erc::FormListEMCs form;
+  form.LabelTitle.setCaption(bench.path);
+  form.ListEMCs.add("\tDelta Control Ratio: 1");
+  form.ListEMCs.choose(0);
+  form.RatioLines = {"", "Delta Control Ratio: 1#1000000"};
+  form.Text1.setText("2");
+  bench.answers().queueBox(front::Answer::no);
+  erc::wireChangeRatio(bench.session, form);
+  form.Text1.key.raise("Enter");
+  mustHold(bench.disk.exists("C:\\Norvik\\ChangeRatio.txt"), "no ratio changed");
+}
+
+void makeNullFigure(Bench& bench) {
+  bench.opening.menuNullFig.clicked.raise();
+  mustHold(bench.disk.exists("C:\\figure_Null.cr2"), "no null figure");
+}
+
+/// The phi file of a figure without toes on one foot, so that one search runs to its end.
+void makePhi(Bench& bench) {
+  bench.answers().queueBox(front::Answer::yes);
+  bench.choose("figure.cr2");
+  bench.opening.MenuPhi.clicked.raise();
+  mustHold(bench.disk.exists("C:\\figure.phi"), "no phi file");
+  bench.disk.remove("C:\\figure.phi");
+}
+
+/// The figure taken for a mesh: nothing in it is a group, all of it is kept.
+void cutBranch(Bench& bench) {
+  bench.opening.LineObj.show();
+  bench.opening.LabelOBJFileName.setCaption(bench.path);
+  front::Form* form = bench.session.findForm("FormTree");
+  mustHold(form != nullptr, "no form");
+  bench.session.load(*form);
+  bench.choose("cut.obj");
+  form->find("CommandGo")->clicked.raise();
+  mustHold(bench.disk.exists("C:\\cut.obj"), "nothing cut");
+  bench.disk.remove("C:\\cut.obj");
+}
+
+void extractPart(Bench& bench) {
+  constexpr int kExtracting = 69;
+  bench.opening.Mode = kExtracting;
+  bench.opening.ListActors.add("    lToe:1 * 1");
+  bench.opening.ListActors.choose(0);
+  bench.opening.ListActors.clicked.raise();
+  mustHold(bench.opening.Mode != kExtracting, "nothing extracted");
+}
+
+/// The names are there before they are asked for, but for the change from the mesh's to another.
+void graftPart(Bench& bench) {
+  if (!bench.disk.exists("C:\\Norvik\\bp.txt")) extractPart(bench);
+  bench.opening.FileChooser.setPath("C:\\");
+  bench.opening.FileLabel.setCaption("figure.cr2");
+  bench.opening.NameLabel.setCaption("wing");
+  bench.answers().queueBox(front::Answer::no);
+  bench.steps = {"wing.obj", "figure.cr2"};
+  builders::BodyPartTransfer(bench.session);
+  mustHold(bench.disk.exists("C:\\New-figure.cr2"), "nothing grafted");
+  bench.disk.remove("C:\\New-figure.cr2");
+}
+
 void changeColour(Bench& bench) {
   const auto position = materials::findMaterial(bench.disk, bench.path, "skin");
   mustHold(position.has_value(), "no skin");
@@ -153,6 +339,52 @@ void takeFigureOut(Bench& bench) {
   bench.choose("taken-out.cr2");
   bench.opening.MenuPZ3Cr2Conv.clicked.raise();
   mustHold(bench.disk.exists("C:\\taken-out.cr2"), "nothing taken out");
+}
+
+template <typename Form>
+Form& formNamed(Bench& bench, std::string_view name) {
+  auto& form = dynamic_cast<Form&>(*bench.session.findForm(name));
+  form.setLoaded(true);
+  return form;
+}
+
+pose::FormPZ2& poseForm(Bench& bench) {
+  auto& form = formNamed<pose::FormPZ2>(bench, "FormPZ2");
+  form.path = bench.path;
+  return form;
+}
+
+/// A pose of all parts is about as large as the figure.
+void buildPose(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  pose::ListTheActorsPZ2(bench.session, form);
+  mustHold(form.ListActorsPZ2.count() > 0, "no parts");
+  for (const std::string& part : form.ListActorsPZ2.items()) form.ListActorsWanted.add(part);
+  pose::buildPose(bench.session, form);
+  mustHold(bench.disk.exists("C:\\figureNew.pz2"), "no pose");
+}
+
+void buildMat(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  pose::ListMaterialsMATPZ2(bench.session, form);
+  mustHold(form.ListMaterialsMAT.count() > 0, "no materials");
+  form.CheckAllMat.setValue(true);
+  bench.choose("mat.pz2");
+  pose::MakeMat(bench.session, form);
+  mustHold(bench.disk.exists("C:\\mat.pz2"), "no MAT file");
+}
+
+void writeSkeleton(Bench& bench) {
+  auto& form = formNamed<pose::FormMOR>(bench, "FormMOR");
+  pose::writeMorSkeleton(bench.session, form);
+  mustHold(form.ListMorphs.count() > 0, "no morphs");
+}
+
+void mergePoses(Bench& bench) {
+  auto& form = formNamed<pose::FormPZ2Combine>(bench, "FormPZ2Combine");
+  form.LabelFileFirst.setCaption(bench.path);
+  pose::mergePoses(bench.session, form);
+  mustHold(form.ListActors1.count() > 0, "no morphs");
 }
 
 }  // namespace
@@ -174,46 +406,76 @@ std::string fileOf(Figure figure) {
 const std::vector<Pass>& passes() {
   using enum Kind;
   using enum Figure;
-  static const std::vector<Pass> all{
+  static const std::vector<Pass> all {
       pass("whole-line read", read, plain, readLines),
       pass("field read", read, plain, readFields),
       pass("CheckSGI of a conventional file", read, plain,
-           [](Bench& bench) { figure::CheckSGI(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::CheckSGI(bench.session, bench.path); }),
       pass("ListTheActors", read, plain,
-           [](Bench& bench) { figure::ListTheActors(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::ListTheActors(bench.session, bench.path); }),
       pass("OpenCR2", read, plain,
-           [](Bench& bench) { figure::OpenCR2(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::OpenCR2(bench.session, bench.path); }),
       pass("MatLister", read, plain,
-           [](Bench& bench) { figure::MatLister(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::MatLister(bench.session, bench.path); }),
       pass("FindMapLocs", read, plain,
-           [](Bench& bench) { figure::FindMapLocs(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::FindMapLocs(bench.session, bench.path); }),
       pass("ViewChannels", read, plain,
-           [](Bench& bench) { channels::ViewChannels(bench.session, bench.path); }),
+           [](Bench& bench) {
+      channels::ViewChannels(bench.session, bench.path); }),
       pass("bracket count", read, plain,
            [](Bench& bench) {
-             text::LineReader in(bench.disk, bench.path);
-             mustHold(figure::countBrackets(in).left > 1, "no brackets");
+      text::LineReader in(bench.disk, bench.path);
+      mustHold(figure::countBrackets(in).left > 1, "no brackets");
            }),
       pass("LineEndingRepair, LF file", rewrite, lfEnds, repairLineEnds),
       pass("SpaceChopper, one line", rewrite, oneBlank,
-           [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::SpaceChopper(bench.session, bench.path); }),
       pass("SpaceChopper, every line", rewrite, blanks,
-           [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
+           [](Bench& bench) {
+      figure::SpaceChopper(bench.session, bench.path); }),
+      pass("phi file", open, plain, makePhi),
+      pass("cut of a branch", rewrite, plain, cutBranch),
+      pass("extraction of a body part", read, plain, extractPart),
+      pass("graft of a body part", rewrite, plain, graftPart),
       pass("path pass", substitution, plain, passPaths),
       pass("Save", substitution, plain, save),
       pass("copy of a morph", copy, plain, copyMorph),
+      pass("removal of a morph", rewrite, plain, removeMorph),
+      pass("removal of a body part", rewrite, plain, removePart),
+      pass("rename of a morph", rewrite, plain, renameMorph),
+      pass("rename of a body part", rewrite, plain, renamePart),
+      pass("open", open, plain, openWhole),
+      pass("reorder", rewrite, plain, reorder),
+      pass("hidden dials, list and change", copy, plain, listAndHideDials),
+      pass("mirror, reading twice", copy, plain, mirrorMorph),
+      pass("ERC unique name", rewrite, plain, makeUnique),
+      pass("tracking speed, reading twice", copy, plain, changeTrackingSpeed),
+      pass("joints, extract and transfer", copy, plain, transferJoints),
+      pass("IK chains", rewrite, plain, removeIkChains),
+      pass("link", rewrite, plain, writeLink),
+      pass("list of links", read, plain, listLinks),
+      pass("ratio", rewrite, plain, changeRatio),
+      pass("null figure", rewrite, plain, makeNullFigure),
       pass("colour of a material", rewrite, plain, changeColour),
       pass("removal of materials", rewrite, plain,
            [](Bench& bench) {
-             materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
+      materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
            }),
       pass("addition of materials", rewrite, plain,
-           [](Bench& bench) {
              materials::addMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"});
-           }),
       pass("alternate geometry", rewrite, plain, addGeometry),
       pass("figure out of a scene", rewrite, plain, takeFigureOut),
-      pass("open", open, plain, openWhole)};
+      pass("pose, list and copy of all parts", rewrite, plain, buildPose),
+      pass("MAT file, lists and copy", rewrite, plain, buildMat),
+      pass("MOR skeleton", read, plain, writeSkeleton),
+      pass("weld, the pose that receives", rewrite, plain, mergePoses)
+  };
   return all;
 }
 

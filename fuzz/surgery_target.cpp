@@ -3,9 +3,9 @@
 // OTHER), "link" (of NAME, its master being OTHER), "part", "rename-morph" and "rename-part" (NAME
 // to OTHER).
 
-#include "channels/morph_removal.h"
-#include "channels/part_removal.h"
-#include "channels/rename_passes.h"
+#include "channels/removal/morph_removal.h"
+#include "channels/removal/part_removal.h"
+#include "channels/renaming/rename_passes.h"
 #include "desk.h"
 #include "input.h"
 #include "plain_surgery.h"

@@ -1,6 +1,7 @@
 #pragma once
 // The questions that the front end puts to the operator.
 
+#include "desktop/history/changes_window.h"
 #include "front/front_end.h"
 
 #include <QPrinter>
@@ -16,6 +17,11 @@ class Asker {
   virtual ~Asker() = default;
 
   virtual front::Answer box(const QString& title, const QString& text, int style) = 0;
+  /// The same, with a way to look at what a Yes would change before it is said.
+  virtual front::Answer boxWithChanges(const QString& title, const QString& text, int style,
+                                       const ComparedFiles&) {
+    return box(title, text, style);
+  }
 
   struct File {
     bool save = false;

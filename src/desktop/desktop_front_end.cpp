@@ -54,7 +54,28 @@ front::Answer DesktopFrontEnd::messageBox(std::string_view text, std::string_vie
                                           int style) {
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);
-  return asker_.box(shown(title), shownMessage(text), style);
+  const auto files = changesOnOffer(style);
+  if (!files) return asker_.box(shown(title), shownMessage(text), style);
+  return asker_.boxWithChanges(shown(title), shownMessage(text), style, *files);
+}
+
+/// A finished result and the figure that it was made from, while the operator is asked about it.
+std::optional<ComparedFiles> DesktopFrontEnd::changesOnOffer(int style) const {
+  const int buttons = style & front::kButtonMask;
+  const bool isQuestion = buttons == front::kYesNo || buttons == front::kYesNoCancel;
+  if (!isQuestion || !dispatcher_.attached()) return std::nullopt;
+  const front::Result& offered = dispatcher_.session().offered();
+  if (offered.scratch.empty() || !disk_.exists(offered.scratch)) return std::nullopt;
+  const QString name = shown(text::fileTitle(offered.figure));
+  ComparedFiles files;
+  files.title = QStringLiteral("Changes in ") + name;
+  files.explanation =
+      QStringLiteral("From %1 as it is to the finished result. Nothing is saved yet.").arg(name);
+  const bool known = text::ignoringErrors([&] {
+    files.before = disk_.hostPath(offered.figure);
+    files.after = disk_.hostPath(offered.scratch);
+  });
+  return known ? std::optional{files} : std::nullopt;
 }
 
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
@@ -174,6 +195,7 @@ void DesktopFrontEnd::showModal(front::Form& form, const std::function<void()>& 
   dispatcher_.sync();
   stage_->show(form, true);
   shown();
+  dispatcher_.sync();
   const Dispatcher::Door door(dispatcher_);
   while (form.loaded()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }

@@ -81,6 +81,7 @@ class DesktopFrontEnd : public front::FrontEnd {
  private:
   static constexpr int kTile = 64;
 
+  std::optional<ComparedFiles> changesOnOffer(int style) const;
   QString hostFolder(const std::string& folder) const;
   QString proposedName(const std::string& file) const;
   QPrinter& printer();

@@ -16,6 +16,7 @@ namespace norvik::desktop {
 class Dispatcher {
  public:
   void attach(front::Session& session) { session_ = &session; }
+  bool attached() const { return session_ != nullptr; }
   front::Session& session() const { return *session_; }
   void setSync(std::function<void()> sync) { sync_ = std::move(sync); }
 

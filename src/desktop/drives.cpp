@@ -64,6 +64,15 @@ std::string settingsFileOf(const Options& options) {
   return file.string();
 }
 
+std::string historyFolder() {
+  const fs::path folder = userFolder("XDG_STATE_HOME", ".local/state") / "norvik" / "history";
+  std::error_code error;
+  fs::create_directories(folder.parent_path(), error);
+  // By the name that the host itself has for it, so that its files are known for what they are.
+  const fs::path real = fs::weakly_canonical(folder, error);
+  return error ? folder.string() : real.string();
+}
+
 bool isSystemPath(const text::Disk& disk, std::string_view path) {
   const bool formed = path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/');
   return formed && disk.hasDrive(path[0]);

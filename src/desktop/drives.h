@@ -20,6 +20,10 @@ std::string programFolderOf(const Options& options);
 /// The settings file, with its folder made.
 std::string settingsFileOf(const Options& options);
 
+/// The folder that old versions of files are kept in, below the user's state folder; those above it
+/// are made.
+std::string historyFolder();
+
 /// Whether a path begins with a drive that there is and a backslash or slash.
 bool isSystemPath(const text::Disk& disk, std::string_view path);
 

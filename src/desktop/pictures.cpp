@@ -12,7 +12,7 @@ constexpr std::array kLooks = std::to_array<PictureLook>({
     {"PictureCopyToDest", "copy", "Copy", "Copy the chosen morph into the destination"},
     {"PictureViewChannels", "channels", "Channels", "Show the channels of one body part"},
     {"PictureJoints", "joints", "Joints", "Transfer joint parameters"},
-    {"PictureTrash", "trash", "Trash", "Arm the trash, then drag body parts or channels to it"},
+    {"PictureTrash", "trash", "Trash", "Arm the trash, then drag body parts or channels to it, or press Delete"},
     {"PictureEMC", "erc", "Remote", "Enhanced remote control"},
     {"PictureEditor", "editor", "Editor", "Manual editor"},
     {"PictureChangeRatio", "ratio", "Ratio", "Change the ratio of a remote control"},

@@ -10,7 +10,11 @@
 namespace norvik::desktop {
 
 Program::Program(const Options& options, Asker& asker)
-    : posix_(text::makePosixHost()), host_(*posix_), disk_(host_) {
+    : posix_(text::makePosixHost()),
+      host_(*posix_),
+      history_(host_, historyFolder()),
+      disk_(host_) {
+  disk_.setHistory(&history_);
   const std::string programFolder = programFolderOf(options);
   setUpDrives(disk_, options, programFolder);
   settings_ = std::make_unique<front::Settings>(*posix_, settingsFileOf(options));
@@ -28,6 +32,8 @@ Program::Program(const Options& options, Asker& asker)
       std::make_unique<workbench::Workbench>(*frontEnd_, disk_, *settings_, programFolder, file);
   dispatcher_.attach(workbench_->session());
   windows_ = std::make_unique<Windows>(dispatcher_, workbench_->session(), *frontEnd_, system);
+  historyTools_ = std::make_unique<HistoryTools>(
+      Restorer(dispatcher_, workbench_->session(), *frontEnd_, asker), windows_->mainWindow());
   host_.setPump([this](const PumpingHost::Progress& progress) {
     windows_->breathe(progress.position, progress.size);
   });

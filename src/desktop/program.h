@@ -4,11 +4,13 @@
 #include "desktop/asker.h"
 #include "desktop/desktop_front_end.h"
 #include "desktop/dispatcher.h"
+#include "desktop/history/history_tools.h"
 #include "desktop/options.h"
 #include "desktop/pumping_host.h"
 #include "desktop/windows.h"
 #include "front/settings.h"
 #include "text/disk.h"
+#include "text/history.h"
 #include "workbench/workbench.h"
 
 #include <memory>
@@ -35,12 +37,14 @@ class Program {
  private:
   std::unique_ptr<text::HostOps> posix_;
   PumpingHost host_;
+  text::History history_;
   text::Disk disk_;
   std::unique_ptr<front::Settings> settings_;
   Dispatcher dispatcher_;
   std::unique_ptr<DesktopFrontEnd> frontEnd_;
   std::unique_ptr<workbench::Workbench> workbench_;
   std::unique_ptr<Windows> windows_;
+  std::unique_ptr<HistoryTools> historyTools_;
 };
 
 }  // namespace norvik::desktop

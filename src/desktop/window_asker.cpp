@@ -71,10 +71,21 @@ QWidget* owner() {
                                                       : QApplication::activeWindow();
 }
 
-}  // namespace
+/// Adds a button that shows what differs. It neither answers the question nor writes anything.
+void addChangesButton(QMessageBox& box, const ComparedFiles& files) {
+  QPushButton* button = box.addButton(QStringLiteral("Show &Changes"), QMessageBox::ActionRole);
+  button->setObjectName(QStringLiteral("ShowChanges"));
+  button->setAutoDefault(false);
+  // The box would take a press for an answer.
+  QObject::disconnect(button, &QPushButton::clicked, nullptr, nullptr);
+  QObject::connect(button, &QPushButton::clicked, &box,
+                   [&box, files] { showChanges(files, &box); });
+}
 
-front::Answer WindowAsker::box(const QString& title, const QString& text, int style) {
+front::Answer ask(const QString& title, const QString& text, int style,
+                  const ComparedFiles* files) {
   QMessageBox box(iconOf(style), title, text, buttonsOf(style), owner());
+  if (files != nullptr) addChangesButton(box, *files);
   box.setObjectName(QStringLiteral("MessageBox"));
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -82,6 +93,17 @@ front::Answer WindowAsker::box(const QString& title, const QString& text, int st
   const int button = box.exec();
   // A box that goes away unanswered, with its window, says what the escape key says.
   return answerOf(button == QDialog::Rejected ? int{escapeOf(style)} : button);
+}
+
+}  // namespace
+
+front::Answer WindowAsker::box(const QString& title, const QString& text, int style) {
+  return ask(title, text, style, nullptr);
+}
+
+front::Answer WindowAsker::boxWithChanges(const QString& title, const QString& text, int style,
+                                          const ComparedFiles& files) {
+  return ask(title, text, style, &files);
 }
 
 std::optional<QString> WindowAsker::file(const File& file) {

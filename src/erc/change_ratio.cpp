@@ -1,6 +1,7 @@
 #include "erc/change_ratio.h"
 
 #include "erc/link_block.h"
+#include "figure/save_path.h"
 #include "text/columns.h"
 #include "text/line_copy.h"
 #include "text/rewrite_pass.h"
@@ -60,9 +61,7 @@ void save(front::Session& session, const std::string& scratch, const std::string
   const front::Answer answer = session.front.messageBox(
       "Control Ratio changed to " + ratio + ".  Save changes?", "Note!", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  front::CommonDialog& dialog = session.opening.CommonDialog2;
-  if (!dialog.save(session.front, session.disk.currentFolder(), figure)) return;
-  if (dialog.fileName() == figure) session.disk.replace(scratch, figure);
+  if (figure::chooseSavePath(session, figure) == figure) session.disk.replace(scratch, figure);
 }
 
 void changeRatio(front::Session& session, FormListEMCs& form) {

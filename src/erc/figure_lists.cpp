@@ -3,7 +3,7 @@
 #include "channels/channel_entry.h"
 #include "figure/actor_entry.h"
 #include "figure/figure_number.h"
-#include "text/line_reader.h"
+#include "text/line_search.h"
 
 #include <array>
 #include <unordered_set>
@@ -31,7 +31,7 @@ bool passFigure(text::LineReader& in) {
 /// The line with the name, among the three fields behind "figure": the first that says so, or the
 /// last of them.
 std::string nameLine(text::LineReader& in) {
-  std::array<std::string, 3> fields;
+  std::array<std::string, 3> fields{};
   for (std::string& field : fields) field = in.field();
   for (const std::string& field : fields) {
     if (text::holds(field, "name")) return field;
@@ -41,10 +41,8 @@ std::string nameLine(text::LineReader& in) {
 
 void passReferences(text::LineReader& in) {
   constexpr std::string_view kReference = "figureResFile";
-  static const text::LineFilter stops{anywhere(kReference)};
-  for (int references = 0; references < 2;) {
-    in.passLines(stops);
-    if (text::holds(in.line(), kReference)) ++references;
+  for (int i = 0; i < 2; ++i) {
+    text::passThrough(in, {anywhere(kReference)}, text::holding(kReference));
   }
 }
 

@@ -3,7 +3,7 @@
 #include "erc/link_kinds.h"
 #include "erc/list_fill.h"
 #include "figure/figure_number.h"
-#include "text/line_reader.h"
+#include "text/field_search.h"
 
 #include <array>
 #include <optional>
@@ -13,8 +13,6 @@ namespace norvik::erc {
 namespace {
 
 using text::anywhere;
-
-constexpr std::string_view kReference = "figureResFile";
 
 /// What tells one sort of channel from the other: the word that its lines begin with, behind which
 /// the axis stands, and what its items say behind the axis.
@@ -54,11 +52,9 @@ class AxisScan {
 
  private:
   void passReferences() {
-    static const text::LineFilter stops{anywhere(kReference), anywhere("\"")};
-    for (int references = 0; references < 2;) {
-      in_.passLines(stops);
-      if (text::holds(in_.field(), kReference)) ++references;
-    }
+    constexpr std::string_view kReference = "figureResFile";
+    text::passFieldHolding(in_, kReference);
+    text::passFieldHolding(in_, kReference);
   }
 
   void enterActor(std::string_view field) {

@@ -9,9 +9,10 @@ namespace norvik::erc {
 void wireLinkBuilder(front::Session& session, DialogERC& dialog, FormECM& form) {
   session.opening.PictureEMC.released.add([&session, &dialog](front::Mouse mouse) {
     if (mouse.button != front::MouseButton::left) return;
-    dialog.OptionJCM.setValue(true);
+    dialog.OptionJCM.setValue(true);  // also of a dialog that is on view already
     session.load(dialog);
   });
+  dialog.loading.add([&dialog] { dialog.OptionJCM.setValue(true); });
   dialog.LabelDone.clicked.add([&session, &form] { session.loadModal(form); });
   dialog.LabelCancel.clicked.add([&session, &dialog] { session.unload(dialog); });
   form.loading.add([&session, &form] {

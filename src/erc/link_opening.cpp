@@ -4,7 +4,7 @@
 #include "erc/link_kinds.h"
 #include "erc/morph_lists.h"
 #include "figure/figure_number.h"
-#include "text/line_reader.h"
+#include "text/field_search.h"
 
 namespace norvik::erc {
 
@@ -15,15 +15,12 @@ constexpr std::string_view kPlainRatio = "1.000000";
 /// The number behind the figure's reference, as a rule that of "actor BODY:1".
 void readFigureNumber(const front::Session& session, FormECM& form) {
   constexpr int kFieldsBehind = 3;
-  static const text::LineFilter stops{text::anywhere("figure"), text::anywhere("\"")};
   text::LineReader in(session.disk, session.opening.LabelFileNameForEditor.caption());
-  std::string_view field;
-  do {
-    in.passLines(stops);
-    field = in.field();
-  } while (!text::begins(field, "figure") || !text::holds(field, "Res"));
+  text::passField(in, "figure", [](std::string_view field) {
+    return text::begins(field, "figure") && text::holds(field, "Res");
+  });
   for (int i = 0; i < kFieldsBehind; ++i) {
-    field = in.field();
+    const auto field = in.field();
     if (text::holds(field, ":")) form.FigureNumber = figure::figureNumber(field);
   }
 }

@@ -63,14 +63,18 @@ class Search {
   Search(const Target& target, text::LineReader& in, text::LineWriter* out)
       : target_(target), in_(in), out_(out), open_(!target.figure) {}
 
-  void run() {
+  std::string run() {
     const text::LineFilter openers{atStart(kActor), atStart(kFigure)};
     const text::LineFilter stops{anywhere(target_.text), atStart(kFigure)};
+    std::string_view line;
     do {
       if (owed_ == 0) pass(open_ ? stops : openers);
-    } while (!isTarget(next()));
+      line = next();
+    } while (!isTarget(line));
+    std::string target{line};
     // A figure's line is written with the two behind it, whatever they are.
     for (; out_ != nullptr && owed_ > 0; --owed_) out_->line(in_.line());
+    return target;
   }
 
  private:
@@ -134,8 +138,16 @@ std::optional<Target> targetOf(const KindOfLink& kind, const std::string& slaved
   return std::nullopt;
 }
 
-void passTarget(const Target& target, text::LineReader& in, text::LineWriter* out) {
-  Search(target, in, out).run();
+std::string passTarget(const Target& target, text::LineReader& in, text::LineWriter* out) {
+  return Search(target, in, out).run();
+}
+
+std::optional<std::string> channelOf(const KindOfLink& kind, const FormECM& form) {
+  constexpr std::size_t kChannelLength = 4;
+  const bool joint = kind.routine == Routine::JCJ || kind.kind == Kind::TCJ;
+  if (joint) return std::string{text::leftmost(form.SlavedChannel, kChannelLength)};
+  if (kind.routine != Routine::JCT || kind.kind == Kind::TCM) return std::nullopt;
+  return std::string{text::leftmost(form.SecondChannel, kChannelLength)};
 }
 
 }  // namespace norvik::erc

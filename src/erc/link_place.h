@@ -23,8 +23,12 @@ struct Target {
 std::optional<Target> targetOf(const KindOfLink& kind, const std::string& slaved);
 
 /// Reads through the target, which is the first line that fits: a name also finds a longer one that
-/// begins with it. With `out` the lines go there, the target as well. Throws FileError inputPastEnd
-/// (62) if there is no such line.
-void passTarget(const Target& target, text::LineReader& in, text::LineWriter* out = nullptr);
+/// begins with it. With `out` the lines go there, the target as well. Returns the target's
+/// line, and throws FileError inputPastEnd (62) if there is none.
+std::string passTarget(const Target& target, text::LineReader& in, text::LineWriter* out = nullptr);
+
+/// What the link's channel holds, which is looked for from the target on: the four letters of a
+/// joint or translation. Nothing for a morph, whose entry line is the target itself.
+std::optional<std::string> channelOf(const KindOfLink& kind, const FormECM& form);
 
 }  // namespace norvik::erc

@@ -2,9 +2,8 @@
 
 #include "erc/link_block.h"
 #include "erc/link_place.h"
-#include "text/columns.h"
-#include "text/line_copy.h"
-#include "text/rewrite_pass.h"
+#include "figure/save_path.h"
+#include "text/line_search.h"
 
 namespace norvik::erc {
 
@@ -64,8 +63,9 @@ class LinkWriter {
   bool rewrite(const Target& target) {
     text::RewritePass pass(session_.disk, figure_, scratch_);
     passTarget(target, pass.in(), &pass.out());
-    passChannel(pass);
-    text::copyThrough(pass.in(), pass.out(), kHeaderEnd);
+    // The first line behind the part that holds the channel, be it a link that names it.
+    if (const auto channel = channelOf(kind_, form_)) copyThrough(pass, *channel);
+    copyThrough(pass, kHeaderEnd);
     const std::string behind{pass.in().line()};
     const bool linked = text::holds(behind, kLinkStart);
     if (linked && !mayAdd()) {
@@ -81,14 +81,8 @@ class LinkWriter {
     return true;
   }
 
-  /// From the part to the channel: the first line behind it that holds the channel's four letters,
-  /// be it a link that names them.
-  void passChannel(text::RewritePass& pass) {
-    constexpr std::size_t kChannelLength = 4;
-    const bool joint = kind_.routine == Routine::JCJ || kind_.kind == Kind::TCJ;
-    if (!joint && (kind_.routine != Routine::JCT || kind_.kind == Kind::TCM)) return;
-    const std::string& channel = joint ? form_.SlavedChannel : form_.SecondChannel;
-    text::copyThrough(pass.in(), pass.out(), text::leftmost(channel, kChannelLength));
+  static void copyThrough(text::RewritePass& pass, std::string_view token) {
+    text::copyThrough(pass, {text::anywhere(token)}, text::holding(token));
   }
 
   bool mayAdd() {
@@ -108,12 +102,12 @@ class LinkWriter {
   }
 
   void save() {
-    front::CommonDialog& dialog = session_.opening.CommonDialog2;
-    if (!dialog.save(session_.front, session_.disk.currentFolder(), figure_)) return;
-    if (dialog.fileName() == figure_) {
+    const auto chosen = figure::chooseSavePath(session_, figure_);
+    if (!chosen) return;
+    if (*chosen == figure_) {
       session_.disk.replace(scratch_, figure_);
     } else {
-      session_.disk.rename(scratch_, dialog.fileName());
+      session_.disk.rename(scratch_, *chosen);
     }
     if (kind_.routine == Routine::PBM) form_.FileWritten = 1;
   }

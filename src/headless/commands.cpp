@@ -286,7 +286,7 @@ void Commands::addInner() {
     const std::string name = line.word();
     const auto routine = session_.callable.find(name);
     if (routine == session_.callable.end()) throw Refused{"no routine '" + name + "'"};
-    session_.deliver(routine->second);
+    session_.deliver(name, routine->second);
   });
   add("put", kAny, [this](ScriptLine& line) {
     front::Control& control = find(line.word());

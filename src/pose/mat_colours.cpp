@@ -7,27 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <optional>
 
 namespace norvik::pose {
 
 namespace {
-
-/// The colour of a list entry, its numbers times 256; none if one of them is no component.
-std::optional<front::Colour> colourIn(std::string_view entry) {
-  constexpr double kScale = 256;
-  constexpr double kMost = 255;
-  std::array<unsigned, 3> parts{};
-  for (unsigned& part : parts) {
-    entry = text::trimmed(entry);
-    const auto piece = text::before(entry, " ");
-    entry.remove_prefix(piece.size());
-    const double whole = std::nearbyint(text::value(piece) * kScale);  // halves to the even number
-    if (!(whole >= 0)) return std::nullopt;
-    part = static_cast<unsigned>(std::min(whole, kMost));
-  }
-  return front::colourOf(parts[0], parts[1], parts[2]);
-}
 
 /// A component as a MAT file has it: "0" in front of the point, and 0 as "0".
 std::string withZero(const std::string& value) {
@@ -43,7 +26,7 @@ std::string entryOf(front::Colour colour) {
 }
 
 void showPresent(FormPZ2& form) {
-  const auto colour = colourIn(form.ListMATColors.item(form.ListMaterialsMAT.index()));
+  const auto colour = entryColour(form.ListMATColors.item(form.ListMaterialsMAT.index()));
   if (colour) form.ShapePresentColor.setBack(*colour);
 }
 
@@ -77,6 +60,21 @@ void explain(front::Session& session, const FormPZ2& form, std::string_view blan
 }
 
 }  // namespace
+
+std::optional<front::Colour> entryColour(std::string_view entry) {
+  constexpr double kScale = 256;
+  constexpr double kMost = 255;
+  std::array<unsigned, 3> parts{};
+  for (unsigned& part : parts) {
+    entry = text::trimmed(entry);
+    const auto piece = text::before(entry, " ");
+    entry.remove_prefix(piece.size());
+    const double whole = std::nearbyint(text::value(piece) * kScale);  // halves to the even number
+    if (!(whole >= 0)) return std::nullopt;
+    part = static_cast<unsigned>(std::min(whole, kMost));
+  }
+  return front::colourOf(parts[0], parts[1], parts[2]);
+}
 
 void wireMatColours(front::Session& session, FormPZ2& form) {
   form.ListMaterialsMAT.clicked.add([&form] { showPresent(form); });

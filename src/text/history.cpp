@@ -109,8 +109,9 @@ void History::losing(const Old& old, const std::function<void()>& step) {
 }
 
 void History::beforeChange(const Old& old) {
+  // It may have grown since it was opened.
   Old now = old;
-  if (host_.status(old.name, now.status) != 0) return;
+  if (host_.status(old.name, now.status) != 0) now.status = old.status;
   losing(now, [] {});
 }
 

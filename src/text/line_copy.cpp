@@ -1,22 +1,9 @@
 #include "text/line_copy.h"
 
-#include "text/columns.h"
-
 namespace norvik::text {
 
 void copyLines(LineReader& in, LineWriter& out, const LineFilter& filter) {
   in.handOnLines(filter, [&out](std::string_view lines) { out.lines(lines); });
-}
-
-void copyThrough(LineReader& in, LineWriter& out, std::string_view token) {
-  const LineFilter stops{anywhere(token)};
-  bool found = false;
-  while (!found) {
-    copyLines(in, out, stops);
-    const auto line = in.line();
-    found = holds(line, token);
-    out.line(line);
-  }
 }
 
 void copyNext(LineReader& in, LineWriter& out, std::uint64_t count) {

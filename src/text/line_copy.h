@@ -5,16 +5,12 @@
 #include "text/line_reader.h"
 #include "text/line_writer.h"
 
-#include <string_view>
+#include <cstdint>
 
 namespace norvik::text {
 
 /// Copies the lines that hold none of the filter's tokens; the next read is at one that may.
 void copyLines(LineReader& in, LineWriter& out, const LineFilter& filter);
-
-/// Copies up to and including the first line that holds `token`; throws FileError inputPastEnd (62)
-/// behind the last line if none does.
-void copyThrough(LineReader& in, LineWriter& out, std::string_view token);
 
 /// Copies the next `count` lines, or those that are left.
 void copyNext(LineReader& in, LineWriter& out, std::uint64_t count);

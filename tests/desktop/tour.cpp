@@ -2,12 +2,16 @@
 //
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
+//        norvik-tour pose DRIVE SETTINGS OUT      takes those of the pose tools alone
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
+#include "desktop/bind/drop_mark.h"
+#include "desktop/link_pictures.h"
 #include "desktop/operator.h"
+#include "desktop/pose_pictures.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
 
@@ -16,7 +20,9 @@
 #include <QDir>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScreen>
+#include <QTreeWidget>
 #include <QtTest>
 
 #include <iostream>
@@ -104,6 +110,67 @@ void takeWorkshopPictures(desktop::Program& program, desktop::Operator& hand,
   QTest::qWait(50);
 }
 
+/// What the question's further button shows; it answers nothing.
+void takeChanges(const QWidget& box, const Photographer& camera) {
+  QTimer::singleShot(300, [&camera] {
+    QWidget* changes = QApplication::activeModalWidget();
+    changes->move(0, 0);
+    camera.take(u"changes"_s, *changes);
+    changes->close();
+  });
+  QTest::mouseClick(box.findChild<QPushButton*>(u"ShowChanges"_s), Qt::LeftButton);
+}
+
+/// A figure is replaced, and replaced back.
+void takeHistory(desktop::Program& program, desktop::Operator& hand, const Photographer& camera,
+                 const QString& figure) {
+  hand.willPress(u"Yes"_s);
+  hand.willChoose(figure);
+  hand.click(u"PictureCopyToDest"_s);
+  program.mainWindow().findChild<QAction*>(u"History"_s)->trigger();
+  auto* window = program.mainWindow().findChild<QWidget*>(u"HistoryWindow"_s);
+  window->move(60, 200);
+  auto* list = window->findChild<QTreeWidget*>(u"HistoryList"_s);
+  list->setCurrentItem(list->topLevelItem(0));
+  camera.take(u"history"_s, *window);
+  window->close();
+  QTest::qWait(50);
+  hand.willPress(u"Yes"_s);
+  program.mainWindow().findChild<QAction*>(u"UndoLast"_s)->trigger();
+}
+
+/// The removals and the rename, up to the point where they would ask.
+void takeChannelPictures(desktop::Program& program, desktop::Operator& hand,
+                         const Photographer& camera) {
+  hand.clickItem(u"ListActors"_s, u"head:1"_s);
+  hand.click(u"PictureViewChannels"_s);
+  hand.find(u"ListChannels"_s).setFocus();
+  hand.shortcut(Qt::Key_F, Qt::ControlModifier);
+  QWidget& filter = hand.find(u"Filter.ListChannels"_s);
+  QTest::keyClicks(&filter, u"head"_s);
+  camera.take(u"channels-filter"_s);
+  QTest::keyClick(&filter, Qt::Key_Escape);
+
+  hand.click(u"PictureRenameMorph"_s);
+  hand.click(u"OptionChannelRename"_s);
+  hand.clickItem(u"ListChannels"_s, u"LongHead"_s);
+  hand.click(u"RenameNext"_s);
+  QTest::keyClicks(&hand.find(u"TextMorphRename"_s), u"TallHead"_s);
+  camera.take(u"channels-rename"_s);
+  chooseTheme(program, u"dark"_s);
+  camera.take(u"channels-rename-dark"_s);
+  chooseTheme(program, u"light"_s);
+  QTest::keyClick(&hand.find(u"TextMorphRename"_s), Qt::Key_Escape);
+
+  hand.click(u"PictureTrash"_s);
+  {
+    const desktop::DropMarks marks;
+    camera.take(u"channels-trash"_s);
+  }
+  hand.click(u"PictureTrash"_s);
+  hand.click(u"PictureViewChannels"_s);
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -116,6 +183,8 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"textures"_s);
   hand.clickItem(u"ListAllTexMaps"_s, u"tilda"_s);
 
+  takeChannelPictures(program, hand, camera);
+
   hand.willChoose(drive + kCharacters + u"tilda2.cr2"_s);
   hand.click(u"LabelOpenSource"_s);
   hand.clickItem(u"ListActors"_s, u"head:1"_s);
@@ -125,9 +194,11 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.willLook([&](QWidget& box) {
     box.move(program.mainWindow().geometry().center() - box.rect().center());
     camera.take(u"question"_s);
+    takeChanges(box, camera);
   });
   hand.willPress(u"No"_s);
   hand.click(u"PictureCopyToDest"_s);
+  takeHistory(program, hand, camera, drive + kCharacters + u"tilda.cr2"_s);
 
   chooseTheme(program, u"dark"_s);
   camera.take(u"dark"_s);
@@ -136,6 +207,10 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
   QTest::keyClick(static_cast<QWidget*>(program.mainWindow().menuBar()), Qt::Key_Escape);
   chooseTheme(program, u"light"_s);
+
+  desktop::takeLinkPictures(
+      hand, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 
   hand.menu({u"MenuCR2Tools"_s, u"MenuBrack"_s});
   QTest::qWait(1700);
@@ -157,6 +232,11 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"mesh-dark"_s);
   chooseTheme(program, u"light"_s);
   takeWorkshopPictures(program, hand, camera);
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+  desktop::takePosePictures(
+      hand, drive,
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -236,6 +316,15 @@ int main(int count, char** arguments) {
     if (words[1] == u"copy"_s) copyMorph(hand, drive);
     if (words[1] == u"time"_s) {
       measure(program, words.value(4).toStdString(), started);
+      QApplication::quit();
+    }
+    if (words[1] == u"pose"_s) {
+      const Photographer camera(program, words.value(4));
+      hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+      hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+      desktop::takePosePictures(hand, drive, [&](const QString& name, const QWidget& window) {
+        camera.take(name, window);
+      });
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);

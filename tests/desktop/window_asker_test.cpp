@@ -81,6 +81,24 @@ TEST(WindowAskerTest, AClickOnAButtonIsTheAnswer) {
   EXPECT_EQ(asker.box(QString(), QString(), front::kYesNo), front::Answer::yes);
 }
 
+TEST(WindowAskerTest, AQuestionWaitsWhileTheChangesAreShown) {
+  bool seen = false;
+  whenUp<QMessageBox>([&](QMessageBox& box) {
+    QTimer::singleShot(50, &box, [&] {
+      QWidget* changes = QApplication::activeModalWidget();
+      seen = changes->objectName() == QStringLiteral("ChangesWindow");
+      changes->close();
+    });
+    box.findChild<QPushButton*>(QStringLiteral("ShowChanges"))->click();
+    EXPECT_TRUE(box.isVisible());
+    box.button(QMessageBox::Yes)->click();
+  });
+  WindowAsker asker;
+  const ComparedFiles files{"/nowhere/a", "/nowhere/b", {}, {}};
+  EXPECT_EQ(asker.boxWithChanges(QString(), QString(), front::kYesNo, files), front::Answer::yes);
+  EXPECT_TRUE(seen);
+}
+
 TEST(WindowAskerTest, AColourIsTheOneThatIsChosen) {
   whenUp<QColorDialog>([](QColorDialog& dialog) {
     EXPECT_EQ(dialog.currentColor(), QColor(10, 20, 30));

@@ -52,9 +52,9 @@ std::string replacedAll(std::string text, const std::string& wanted, const std::
 }
 
 /// How the folders of a run are laid out.
-enum class Layout {
-  plain,
-  links,  ///< figures are links into another folder, and each folder is a file system of its own
+struct Layout {
+  bool links = false;  ///< figures are links into another folder, and each folder is a file system
+  bool kept = false;   ///< old versions are kept in a folder outside the drive
 };
 
 /// An act of the operator on C:\work\figure.cr2.
@@ -64,8 +64,6 @@ struct Act {
   std::string newText = kNew;
   std::function<void(ScriptedWorkbench&)> before = [](ScriptedWorkbench&) {};
   std::string script;
-  /// A name under which the old text may stand while the figure's own name is free.
-  std::string backup = {};
   /// The file that gets the new text, if it is not the figure.
   std::string target = "work/figure.cr2";
   std::string oldTarget = {};    ///< its text before; none if it is missing then
@@ -99,14 +97,9 @@ bool isThere(const TemporaryFolder& folder, const std::string& name) {
 void checkTexts(const TemporaryFolder& folder, const Act& act) {
   const std::string figure = "work/figure.cr2";
   const bool changesFigure = act.target == figure;
-  if (isThere(folder, figure)) {
-    EXPECT_TRUE(isWhole(folder, figure, act.oldText, changesFigure ? act.newText : act.oldText))
-        << folder.read(figure);
-  } else {
-    ASSERT_FALSE(act.backup.empty()) << "the figure is gone";
-    ASSERT_TRUE(isThere(folder, act.backup)) << "the figure and its backup are gone";
-    EXPECT_EQ(folder.read(act.backup), act.oldText);
-  }
+  ASSERT_TRUE(isThere(folder, figure)) << "the figure is gone";
+  EXPECT_TRUE(isWhole(folder, figure, act.oldText, changesFigure ? act.newText : act.oldText))
+      << folder.read(figure);
   if (!changesFigure) {
     if (!act.oldSpelling.empty() && isThere(folder, act.oldSpelling)) {
       EXPECT_TRUE(isWhole(folder, act.oldSpelling, act.oldTarget, act.newText));
@@ -134,7 +127,7 @@ void layOut(const TemporaryFolder& folder, const Act& act, Layout layout) {
   folder.makeFolder("work");
   folder.makeFolder("Norvik");
   const auto put = [&](const std::string& name, const std::string& text) {
-    if (layout == Layout::plain) return folder.write(name, text);
+    if (!layout.links) return folder.write(name, text);
     const std::string title = name.substr(name.rfind('/') + 1);
     folder.write("real/" + title, text);
     folder.makeLink(name, folder.path("real/" + title));
@@ -147,12 +140,13 @@ void layOut(const TemporaryFolder& folder, const Act& act, Layout layout) {
 }
 
 /// Does the act once; whether the fault came.
-bool runOnce(const TemporaryFolder& folder, const Act& act, Layout layout, const Way& way,
-             std::uint64_t n) {
+bool runOnce(const TemporaryFolder& folder, const TemporaryFolder& store, const Act& act,
+             Layout layout, const Way& way, std::uint64_t n) {
   const auto real = text::makePosixHost();
   FaultyHost host(*real);
-  if (layout == Layout::links) host.separateFolders();
-  ScriptedWorkbench bench(host, folder.path());
+  if (layout.links) host.separateFolders();
+  text::History history(host, store.path());
+  ScriptedWorkbench bench(host, folder.path(), layout.kept ? &history : nullptr);
   bench.session().load(bench.opening());
   bench.opening().OpenedPath = "C:\\work\\figure.cr2";
   act.before(bench);
@@ -161,6 +155,25 @@ bool runOnce(const TemporaryFolder& folder, const Act& act, Layout layout, const
   const bool met = host.faultMet();
   EXPECT_FALSE(bench.outcome().refused) << bench.takeEvents();
   return met;
+}
+
+/// What the next start finds: entries that are whole, and nothing else.
+void checkStore(const TemporaryFolder& store, const Act& act, bool mustKeep) {
+  const auto host = text::makePosixHost();
+  text::History history(*host, store.path());
+  std::size_t targets = 0;
+  const auto entries = history.entries();
+  for (const text::HistoryEntry& entry : entries) {
+    const std::string text = store.read(history.fileOf(entry).substr(store.path().size() + 1));
+    EXPECT_EQ(text.size(), entry.size);
+    EXPECT_TRUE(text == act.oldText || text == act.oldTarget || text == act.newText) << text;
+    if (text == act.oldText || text == act.oldTarget) ++targets;
+  }
+  EXPECT_EQ(store.files().size(), 2 * entries.size()) << "something is left half made";
+  const bool replaces = act.target == "work/figure.cr2" || !act.oldTarget.empty();
+  if (mustKeep) {
+    EXPECT_EQ(targets, replaces ? 1U : 0U);
+  }
 }
 
 void expectNoStrays(const TemporaryFolder& folder) {
@@ -177,17 +190,19 @@ void failEverywhere(const Act& act, Layout layout, const Way& way) {
     SCOPED_TRACE("fault " + std::to_string(static_cast<int>(way.fault)) + ", error " +
                  std::to_string(way.error) + ", at " + std::to_string(++n));
     const TemporaryFolder folder;
+    const TemporaryFolder store;
     layOut(folder, act, layout);
-    met = runOnce(folder, act, layout, way, n);
+    met = runOnce(folder, store, act, layout, way, n);
     checkTexts(folder, act);
-    if (layout == Layout::links) expectLinks(folder, act);
+    checkStore(store, act, layout.kept && !met);
+    if (layout.links) expectLinks(folder, act);
     if (testing::Test::HasFailure()) return;
     // Only who knows what happened can tidy up.
     if (!met || way.fault == Fault::error || way.fault == Fault::fullDisk) expectNoStrays(folder);
-    if (met && act.repeatable) runOnce(folder, act, layout, {Fault::none, 0}, 0);
+    if (met && act.repeatable) runOnce(folder, store, act, layout, {Fault::none, 0}, 0);
     const bool done = !met || act.repeatable;
     // A link keeps its spelling.
-    const bool keepsSpelling = layout == Layout::links && !act.oldSpelling.empty();
+    const bool keepsSpelling = layout.links && !act.oldSpelling.empty();
     const std::string& target = keepsSpelling ? act.oldSpelling : act.target;
     EXPECT_TRUE(!done || (isThere(folder, target) && folder.read(target) == act.newText));
     if (testing::Test::HasFailure()) return;
@@ -205,9 +220,11 @@ void failEverywhere(const Act& act, Layout layout) {
 
 class DataSafety : public testing::TestWithParam<Layout> {};
 
-INSTANTIATE_TEST_SUITE_P(Layouts, DataSafety, testing::Values(Layout::plain, Layout::links),
+INSTANTIATE_TEST_SUITE_P(Layouts, DataSafety,
+                         testing::Values(Layout{}, Layout{.links = true}, Layout{.kept = true}),
                          [](const auto& layout) {
-                           return layout.param == Layout::plain ? "Plain" : "Links";
+                           return std::string(layout.param.links ? "Links" : "Plain") +
+                                  (layout.param.kept ? "Kept" : "");
                          });
 
 void editTexture(ScriptedWorkbench& bench) {
@@ -277,7 +294,6 @@ TEST_P(DataSafety, CheckSGIOnTheWayToTheLists) {
   act.oldText = replacedAll(kOld, "\r\n", "\n");
   act.newText = kOld;
   act.script = "answer OK\nchoose C:\\work\\figure.cr2\nclick MenuFileOpen\n";
-  act.backup = "work/figureCR2.bak";
   act.check = [old = act.oldText](const TemporaryFolder& folder) {
     const auto holdsOld = [&](const char* name) {
       return isThere(folder, name) && folder.read(name) == old;
@@ -309,11 +325,11 @@ TEST(DataSafetyOfLargeFigures, AFullDiskLeavesTheOldOne) {
   check.oldText = replacedAll(save.oldText, "\r\n", "\r");
   check.newText = save.oldText;
   check.script = "answer OK\nchoose C:\\work\\figure.cr2\nclick MenuFileOpen\n";
-  check.backup = "work/figureCR2.bak";
   check.repeatable = false;
   for (const Act& act : {save, check}) {
-    failEverywhere(act, Layout::plain, {Fault::fullDisk, 0});
-    failEverywhere(act, Layout::links, {Fault::fullDisk, 0});
+    failEverywhere(act, {}, {Fault::fullDisk, 0});
+    failEverywhere(act, {.links = true}, {Fault::fullDisk, 0});
+    failEverywhere(act, {.kept = true}, {Fault::fullDisk, 0});
   }
 }
 

@@ -8,8 +8,9 @@ namespace {
 
 constexpr const char* kProgramFolder = "C:\\Norvik";
 
-/// The disk, with drive C on a host folder and the program folder made.
-text::Disk& prepared(text::Disk& disk, const std::string& driveC) {
+/// The disk, with its history, drive C on a host folder and the program folder made.
+text::Disk& prepared(text::Disk& disk, const std::string& driveC, text::History* history) {
+  disk.setHistory(history);
   disk.mount('C', driveC);
   disk.makeFolders(kProgramFolder);
   return disk;
@@ -17,9 +18,11 @@ text::Disk& prepared(text::Disk& disk, const std::string& driveC) {
 
 }  // namespace
 
-ScriptedWorkbench::ScriptedWorkbench(text::HostOps& host, const std::string& driveC)
+ScriptedWorkbench::ScriptedWorkbench(text::HostOps& host, const std::string& driveC,
+                                     text::History* history)
     : disk_(host),
-      workbench_(frontEnd_, prepared(disk_, driveC), settings_, kProgramFolder, std::string{}),
+      workbench_(frontEnd_, prepared(disk_, driveC, history), settings_, kProgramFolder,
+                 std::string{}),
       commands_(workbench_, frontEnd_, transcript_, outcome_, host) {
   frontEnd_.setUnload(
       [this](front::Form& form) { session().deliver([this, &form] { session().unload(form); }); });

@@ -7,6 +7,7 @@
 #include "headless/script_front_end.h"
 #include "headless/transcript.h"
 #include "text/disk.h"
+#include "text/history.h"
 #include "workbench/workbench.h"
 
 #include <sstream>
@@ -19,7 +20,8 @@ namespace norvik::tests {
 /// scripts, so that a test can change the host, or look at a control, in between.
 class ScriptedWorkbench {
  public:
-  ScriptedWorkbench(text::HostOps& host, const std::string& driveC);
+  ScriptedWorkbench(text::HostOps& host, const std::string& driveC,
+                    text::History* history = nullptr);
 
   /// Runs script lines. What the lines before have left in the way of answers still counts.
   void run(const std::string& script);

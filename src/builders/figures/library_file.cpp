@@ -3,6 +3,7 @@
 #include "builders/figures/library_text.h"
 #include "figure/embedded_geometry.h"
 #include "text/columns.h"
+#include "text/field_search.h"
 #include "text/rewrite_pass.h"
 
 namespace norvik::builders {
@@ -37,19 +38,11 @@ bool mayOverwrite(front::Session& session, const std::string& title) {
 
 /// Reads up to the geometry of the part that is called `entry`, as an actor or a prop.
 void passToGeometry(text::LineReader& in, const std::string& entry) {
-  static const text::LineFilter parts{text::anywhere("actor "), text::anywhere("prop "),
-                                      text::anywhere("\"")};
-  std::string_view field;
-  do {
-    in.passLines(parts);
-    field = in.field();
-  } while (field != "actor " + entry && field != "prop " + entry);
-  static const text::LineFilter embedded{text::anywhere(figure::kEmbeddedGeometry),
-                                         text::anywhere("\"")};
-  do {
-    in.passLines(embedded);
-    field = in.field();
-  } while (!text::holds(field, figure::kEmbeddedGeometry));
+  const std::string actor = "actor " + entry;
+  const std::string prop = "prop " + entry;
+  text::passField(in, entry,
+                  [&](std::string_view field) { return field == actor || field == prop; });
+  text::passFieldHolding(in, figure::kEmbeddedGeometry);
 }
 
 void writeObj(front::Session& session, const Names& names, const std::string& entry) {

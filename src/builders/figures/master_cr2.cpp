@@ -1,7 +1,7 @@
 #include "builders/figures/master_cr2.h"
 
-#include "text/columns.h"
 #include "text/line_copy.h"
+#include "text/line_search.h"
 
 #include <array>
 
@@ -35,14 +35,8 @@ struct Work {
   bool dropsParameters = false;
 };
 
-/// Reads through the first line that holds `token`, and returns it.
 std::string readThrough(text::LineReader& in, std::string_view token) {
-  const text::LineFilter stops{anywhere(token)};
-  for (;;) {
-    in.passLines(stops);
-    const auto line = in.line();
-    if (text::holds(line, token)) return std::string{line};
-  }
+  return text::passThrough(in, {anywhere(token)}, text::holding(token));
 }
 
 /// Copies up to the first line with "material", whatever it is. From a morph on everything goes up

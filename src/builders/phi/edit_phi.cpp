@@ -10,18 +10,26 @@ namespace {
 
 constexpr std::string_view kScratch = "\\PhiEdit.txt";
 
+void setLine(FormPhi& form, int index, std::string_view line) {
+  form.ListPhi.remove(index);
+  form.ListPhi.insert(index, line);
+  form.ListPhi.choose(index);
+}
+
 void takeLine(FormPhi& form) {
   form.TextPhiEdit.setText(form.ListPhi.chosen());
   form.TextPhiEdit.show();
+  form.setFocus(form.TextPhiEdit);
 }
 
 void putLineBack(FormPhi& form) {
   const int index = form.ListPhi.index();
   if (index == front::ListBox::kNone) return;
-  form.ListPhi.remove(index);
-  form.ListPhi.insert(index, form.TextPhiEdit.text());
-  form.ListPhi.choose(index);
+  const std::string before{form.ListPhi.item(index)};
+  const std::string& after = form.TextPhiEdit.text();
+  setLine(form, index, after);
   form.LabelPhiSave.show();
+  if (after != before) form.edits.add({index, before, after});
 }
 
 void writeList(front::Session& session, const FormPhi& form, const std::string& scratch) {
@@ -31,7 +39,7 @@ void writeList(front::Session& session, const FormPhi& form, const std::string& 
 }
 
 /// The file must be there and may not be read-only, as for a delete that comes first.
-void save(front::Session& session, const FormPhi& form) {
+void save(front::Session& session, FormPhi& form) {
   const std::string& path = form.LabelPhiFileName.caption();
   const std::string scratch = session.opening.inProgramFolder(kScratch);
   if (session.disk.isReadOnly(path)) {
@@ -45,6 +53,7 @@ void save(front::Session& session, const FormPhi& form) {
     text::ignoringErrors([&] { session.disk.remove(scratch); });
     throw;
   }
+  form.edits.markSaved();
   session.front.messageBox("Modified Phi file saved.", "Note!", front::kOk);
 }
 
@@ -61,6 +70,14 @@ void printList(front::Session& session, const FormPhi& form) {
 }
 
 }  // namespace
+
+void undoEdit(FormPhi& form) {
+  if (const auto edit = form.edits.undo()) setLine(form, edit->index, edit->before);
+}
+
+void redoEdit(FormPhi& form) {
+  if (const auto edit = form.edits.redo()) setLine(form, edit->index, edit->after);
+}
 
 void wireEditPhi(front::Session& session, FormPhi& form) {
   form.ListPhi.doubleClicked.add([&form] { takeLine(form); });

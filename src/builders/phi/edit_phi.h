@@ -11,4 +11,9 @@ namespace norvik::builders {
 /// "\PhiEdit.txt" in the program folder; LabelPhiDone unloads the form; MenuPrint prints the list.
 void wireEditPhi(front::Session& session, FormPhi& form);
 
+/// Takes the last edit of a line back, and makes it again; the line is then selected. What is to be
+/// saved stays on offer.
+void undoEdit(FormPhi& form);
+void redoEdit(FormPhi& form);
+
 }  // namespace norvik::builders

@@ -8,6 +8,7 @@ FormPhi::FormPhi() : Form("FormPhi", "Phi Editor") {
 }
 
 void FormPhi::restoreStart() {
+  edits.clear();
   ListPhi.clear();
   TextPhiEdit.setText({});
   TextPhiEdit.hide();

@@ -1,6 +1,7 @@
 #pragma once
 // The editor of phi files.
 
+#include "builders/phi/line_edits.h"
 #include "front/form.h"
 #include "front/list_box.h"
 #include "front/menu_entry.h"
@@ -16,6 +17,8 @@ class FormPhi : public front::Form {
 
   /// The state in which the form is shown: no file, no lines, nothing to save.
   void restoreStart();
+
+  LineEdits edits;
 
   /// The lines of the phi file.
   front::ListBox ListPhi{*this, "ListPhi"};

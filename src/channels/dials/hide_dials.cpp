@@ -99,7 +99,8 @@ void wireHideDials(front::Session& session) {
   front::Opening& opening = session.opening;
   opening.menuHideDialsChannels.clicked.add([&session] { listDials(session); });
   opening.CommandDialHideDone.clicked.add([&session] { finishDials(session); });
-  opening.ListHideDialsChannels.key.add([&opening](const std::string& key) {
+  opening.ListHideDialsChannels.key.add([&session, &opening](const std::string& key) {
+    if (key == "Enter") finishDials(session);
     if (key == "Escape") front::hideDialFrame(opening);
   });
 }

@@ -69,8 +69,12 @@ void hideReorderLists(front::Opening& opening) {
 
 void wireReorderLists(front::Session& session) {
   front::Opening& opening = session.opening;
-  opening.ListChannelsReorderByPart.clicked.add([&opening] {
+  const auto pick = [&opening] {
     moveItem(opening.ListChannelsReorderByPart, opening.ListChannelsReorderNewOrder);
+  };
+  opening.ListChannelsReorderByPart.clicked.add(pick);
+  opening.ListChannelsReorderByPart.key.add([pick](const std::string& key) {
+    if (key == "Enter") pick();
   });
   opening.OptionAlphabetize.clicked.add([&opening] { pickByAlphabet(opening); });
   opening.ListChannelsReorderNewOrder.key.add(

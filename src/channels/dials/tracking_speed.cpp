@@ -66,7 +66,8 @@ void wireTrackingSpeed(front::Session& session) {
   front::Opening& opening = session.opening;
   opening.menuDialTrackSpeed.clicked.add([&opening] { opening.ListChannelsReorder.show(); });
   opening.ListChannelsReorder.clicked.add([&session] { lookUp(session); });
-  opening.ListChannelsReorder.key.add([&opening](const std::string& key) {
+  opening.ListChannelsReorder.key.add([&session, &opening](const std::string& key) {
+    if (key == "Enter") lookUp(session);
     if (key == "Escape") opening.ListChannelsReorder.hide();
   });
   opening.TextTrackingSpeed.key.add([&session, &opening](const std::string& key) {

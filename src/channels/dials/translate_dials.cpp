@@ -90,6 +90,10 @@ void wireTranslateDials(front::Session& session) {
                               {opening.LabelZ, {"Z", "translateZ", Missing::silent}}};
   for (const AxisLabel& label : labels) {
     label.label.clicked.add([&session, axis = label.axis] { turnDial(session, axis); });
+    label.label.key.add([&session, &opening, axis = label.axis](const std::string& key) {
+      if (key == "Enter") turnDial(session, axis);
+      if (key == "Escape") endTranslateDials(opening);
+    });
   }
 }
 

@@ -116,6 +116,9 @@ void mirrorOnto(front::Session& session, const std::string& part) {
 void wireMirror(front::Session& session) {
   session.opening.menuMirror.clicked.add([&session] { armMirror(session); });
   session.opening.ListChannels.clicked.add([&session] { chooseMorph(session); });
+  session.opening.PictureMirror.key.add([&session](const std::string& key) {
+    if (key == "Escape") session.opening.PictureMirror.hide();
+  });
 }
 
 }  // namespace norvik::channels

@@ -50,7 +50,7 @@ void CheckBinding::refresh() {
   WidgetBinding::refresh();
 }
 
-CommandBinding::CommandBinding(Dispatcher& dispatcher, front::CommandButton& command,
+CommandBinding::CommandBinding(Dispatcher& dispatcher, front::CaptionControl& command,
                                QAbstractButton& button)
     : WidgetBinding(dispatcher, command, button, Clicks::own), command_(command), button_(button) {
   connect(&button, &QAbstractButton::clicked, this, [this] { raise(command_.clicked); });

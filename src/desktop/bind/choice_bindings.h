@@ -34,15 +34,16 @@ class CheckBinding : public WidgetBinding {
   QAbstractButton& button_;
 };
 
+/// A command, or a label that is clicked, as a button.
 class CommandBinding : public WidgetBinding {
  public:
-  CommandBinding(Dispatcher& dispatcher, front::CommandButton& command, QAbstractButton& button);
+  CommandBinding(Dispatcher& dispatcher, front::CaptionControl& command, QAbstractButton& button);
 
  protected:
   void refresh() override;
 
  private:
-  front::CommandButton& command_;
+  front::CaptionControl& command_;
   QAbstractButton& button_;
 };
 

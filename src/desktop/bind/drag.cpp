@@ -1,5 +1,6 @@
 #include "desktop/bind/drag.h"
 
+#include "desktop/bind/drop_mark.h"
 #include "desktop/words.h"
 
 #include <QDrag>
@@ -45,6 +46,7 @@ void dragControl(const front::Control& control, QWidget& from, const QString& ca
   drag->setMimeData(data);
   drag->setPixmap(tag(from, caption));
   drag->setHotSpot({-12, -4});
+  const DropMarks marks;
   drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
 }
 

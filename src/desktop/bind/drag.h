@@ -11,7 +11,8 @@ class QWidget;
 
 namespace norvik::desktop {
 
-/// Carries a control until the mouse lets go; the caption travels along.
+/// Carries a control until the mouse lets go; the caption travels along, and what takes a control
+/// is outlined.
 void dragControl(const front::Control& control, QWidget& from, const QString& caption);
 
 /// Whether a control of this program is carried, or files of the desktop.

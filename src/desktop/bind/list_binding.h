@@ -23,7 +23,10 @@ class ListBinding : public WidgetBinding {
   void release(const QMouseEvent& event);
   bool key(const QKeyEvent& event);
   bool tickAt(const QMouseEvent& event);
-  void tick(int row);
+  void tick(int item);
+  void filter(const QString& text);
+  void deselectHidden();
+  QString dragCaption() const;
 
   front::ListBox& list_;
   ListView& view_;

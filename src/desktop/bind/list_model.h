@@ -4,14 +4,18 @@
 #include "front/list_box.h"
 
 #include <QAbstractListModel>
+#include <QString>
+
+#include <vector>
 
 namespace norvik::desktop {
 
-/// Shows the items of a list box without a copy of them. update() tells the view what changed.
+/// Shows the items of a list box without a copy of them, or those of them that a filter lets
+/// through: a row is then not an item's index. update() tells the view what changed.
 class ListModel : public QAbstractListModel {
  public:
   explicit ListModel(front::ListBox& list)
-      : list_(list), seen_(list.itemChanges()), rows_(list.count()) {}
+      : list_(list), seen_(list.itemChanges()), count_(list.count()) {}
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
@@ -22,12 +26,28 @@ class ListModel : public QAbstractListModel {
   void update();
   void setTickable(bool tickable) { tickable_ = tickable; }
 
+  /// Shows the items that hold a text, in whatever case, and what belongs to them: items that begin
+  /// with a tab belong to the one above that does not. An empty text shows all.
+  void setFilter(const QString& text);
+  bool filtered() const { return !filter_.isEmpty(); }
+
+  /// How many items there were at the last update, shown or not.
+  int items() const { return count_; }
+  /// The item's index at a row.
+  int item(int row) const;
+  /// The row of an item; -1 if the filter keeps it back.
+  int rowOf(int item) const;
+
   const front::ListBox& list() const { return list_; }
 
  private:
+  void findRows();
+
   front::ListBox& list_;
   std::uint64_t seen_;
-  int rows_;
+  int count_;              ///< of the items when they were last looked at
+  std::vector<int> rows_;  ///< the items' indexes, while there is a filter
+  QString filter_;
   bool tickable_ = false;
 };
 

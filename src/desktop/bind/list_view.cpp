@@ -11,12 +11,13 @@ namespace norvik::desktop {
 
 namespace {
 
-/// The first item from a row on, around the end, that a test takes; -1 if there is none.
+/// The first row from one on, around the end, whose item a test takes; -1 if there is none.
 template <typename Test>
-int findFrom(const front::ListBox& list, int start, const Test& test) {
-  for (int i = 0; i < list.count(); ++i) {
-    const int row = (start + i) % list.count();
-    if (test(shownItem(list.item(row)).trimmed())) return row;
+int findFrom(const ListModel& items, int start, const Test& test) {
+  const int count = items.rowCount();
+  for (int i = 0; i < count; ++i) {
+    const int row = (start + i) % count;
+    if (test(shownItem(items.list().item(items.item(row))).trimmed())) return row;
   }
   return -1;
 }
@@ -45,21 +46,20 @@ ListView::ListView(QWidget* parent) : QListView(parent) {
 
 void ListView::keyboardSearch(const QString& text) {
   const auto* items = dynamic_cast<ListModel*>(model());
-  if (items == nullptr || items->list().count() == 0 || text.isEmpty()) return;
+  if (items == nullptr || items->rowCount() == 0 || text.isEmpty()) return;
   const bool goesOn =
       sinceKey_.isValid() && sinceKey_.elapsed() < QApplication::keyboardInputInterval() * 2;
   sought_ = goesOn ? sought_ + text : text;
   sinceKey_.start();
 
-  const front::ListBox& list = items->list();
   const int current = currentIndex().isValid() ? currentIndex().row() : 0;
   // A letter alone goes on to the next item; more letters narrow the search down.
   const int start = sought_.size() == 1 ? current + 1 : current;
-  int row = findFrom(list, start, [this](const QString& item) {
+  int row = findFrom(*items, start, [this](const QString& item) {
     return item.startsWith(sought_, Qt::CaseInsensitive);
   });
   if (row < 0) {
-    row = findFrom(list, start, [this](const QString& item) {
+    row = findFrom(*items, start, [this](const QString& item) {
       return item.contains(sought_, Qt::CaseInsensitive);
     });
   }

@@ -25,8 +25,15 @@ class ListView : public QListView {
     std::function<bool(const QKeyEvent&)> key;
     std::function<bool()> mayDrag;
     std::function<void()> drag;
+    std::function<void(const QString&)> filter;
   };
   void setActs(Acts acts) { acts_ = std::move(acts); }
+
+  /// Shows no more than the items that hold a text; an empty one shows all. What is selected stays
+  /// so, shown or not.
+  void setFilter(const QString& text) {
+    if (acts_.filter) acts_.filter(text);
+  }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;

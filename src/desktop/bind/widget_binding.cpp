@@ -1,6 +1,7 @@
 #include "desktop/bind/widget_binding.h"
 
 #include "desktop/bind/drag.h"
+#include "desktop/bind/drop_mark.h"
 #include "desktop/words.h"
 #include "front/form.h"
 
@@ -33,6 +34,7 @@ WidgetBinding::WidgetBinding(Dispatcher& dispatcher, front::Control& control, QW
   widget.setObjectName(QString::fromStdString(control.name()));
   const bool takesRight = control.pressed.hasHandlers() || control.released.hasHandlers();
   if (takesRight) widget.setContextMenuPolicy(Qt::NoContextMenu);
+  if (control.dropped.hasHandlers()) markAsTarget(widget);
   watch(widget);
 }
 
@@ -220,6 +222,10 @@ std::string keyName(const QKeyEvent& event) {
     case Qt::Key_Delete:
       name = "Delete";
       break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (!event.modifiers().testFlag(Qt::AltModifier)) return {};
+      return event.key() == Qt::Key_Up ? "Alt+Up" : "Alt+Down";
     default:
       if (event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F12) {
         name = "F" + std::to_string(event.key() - Qt::Key_F1 + 1);

@@ -1,6 +1,14 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/link_dialog_window.h"
+#include "desktop/forms/link_window.h"
 #include "desktop/forms/material_coordinator_window.h"
+#include "desktop/forms/mor_window.h"
+#include "desktop/forms/phi_window.h"
+#include "desktop/forms/pose_window.h"
+#include "desktop/forms/ratio_window.h"
+#include "desktop/forms/tree_window.h"
+#include "desktop/forms/weld_window.h"
 #include "desktop/window/mesh_window.h"
 
 namespace norvik::desktop {
@@ -20,6 +28,11 @@ std::unique_ptr<FormWindow> makeWorkshop(front::Form& form, const WindowParts& p
                                       parts.unload, parts.parent);
 }
 
+template <typename Window, typename Form>
+std::unique_ptr<FormWindow> makeLaidOut(front::Form& form, const WindowParts& parts) {
+  return std::make_unique<Window>(parts, dynamic_cast<Form&>(form));
+}
+
 std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts& parts) {
   return std::make_unique<MaterialCoordinatorWindow>(parts.maker, parts.session,
                                                      dynamic_cast<materials::FormMatCoord&>(form),
@@ -28,8 +41,16 @@ std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts
 
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
+    {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
+    {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
+    {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
     {"FormMatCoord", makeCoordinator},
     {"FormOBJ", makeWorkshop},
+    {"FormPhi", makeLaidOut<PhiWindow, builders::FormPhi>},
+    {"FormTree", makeLaidOut<TreeWindow, builders::FormTree>},
+    {"FormPZ2", makeLaidOut<PoseWindow, pose::FormPZ2>},
+    {"FormMOR", makeLaidOut<MorWindow, pose::FormMOR>},
+    {"FormPZ2Combine", makeLaidOut<WeldWindow, pose::FormPZ2Combine>},
 };
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/panes.h"
 #include "desktop/window/swatch_tips.h"
 
@@ -22,6 +23,7 @@ QWidget* makeParts(Maker& maker, front::Opening& opening, QWidget& parent) {
   column->addWidget(&heading);
   auto& actors = maker.list(opening.ListActors, *side);
   actors.setAccessibleName(QStringLiteral("Body parts"));
+  column->addWidget(new ListFilter(opening.ListActors, actors, *side));
   column->addWidget(&actors, 1);
   auto* geometries = new QLabel(QStringLiteral("Add a geometry to"), side);
   makeHeading(*geometries);

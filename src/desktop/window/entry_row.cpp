@@ -60,25 +60,17 @@ class Row {
 }  // namespace
 
 QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
-  constexpr int kName = 260;
   constexpr int kNumber = 90;
   Row row(maker, parent);
-  row.add(opening.TextMorphRename, "New name", kName);
-  row.add(opening.OptionChannelRename);
-  row.add(opening.OptionBodyPartRename);
-  row.add(opening.TextERCUnique, "Unique name", kName);
-  row.add(opening.TextTrackingSpeed, "Tracking speed", kNumber);
   row.add(opening.TextOBJScale, "Scale", kNumber);
   row.add(opening.SliderOBJScale);
   row.add(opening.CheckOBJBatch);
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
   row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
   QWidget* widget = row.finish();
-  maker.showWhileAny(
-      *widget, {&opening.TextMorphRename, &opening.OptionChannelRename,
-                &opening.OptionBodyPartRename, &opening.TextERCUnique, &opening.TextTrackingSpeed,
-                &opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
-                &opening.FrameMash, &opening.FrameExtractObj});
+  maker.showWhileAny(*widget,
+                     {&opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
+                      &opening.FrameMash, &opening.FrameExtractObj});
   return widget;
 }
 

@@ -1,10 +1,14 @@
 #include "desktop/window/main_window.h"
 
 #include "desktop/bind/drag.h"
+#include "desktop/window/dial_cards.h"
+#include "desktop/window/dial_row.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/overlays.h"
 #include "desktop/window/panes.h"
 #include "desktop/window/place.h"
 #include "desktop/window/recent_menu.h"
+#include "desktop/window/rename_row.h"
 #include "desktop/window/splash_page.h"
 #include "desktop/window/tool_hints.h"
 #include "desktop/window/tool_strip.h"
@@ -66,7 +70,12 @@ void MainWindow::makeMenus() {
   menus_->action(opening_.menuScreenRes)->setShortcut(QKeySequence(Qt::Key_F11));
   menus_->action(opening_.MenuHelp)->setShortcut(QKeySequence(Qt::Key_F1));
   const Theme present = themeNamed(session_.settings.get(kWindowSection, kThemeKey, "system"));
-  addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  QMenu* view = addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  view->addSeparator();
+  QAction* filter = view->addAction(QStringLiteral("&Filter the List"));
+  filter->setObjectName(QStringLiteral("FilterList"));
+  filter->setShortcut(QKeySequence::Find);
+  connect(filter, &QAction::triggered, this, [this] { openFilter(*this); });
 }
 
 void MainWindow::makeCentre() {
@@ -74,7 +83,9 @@ void MainWindow::makeCentre() {
   auto* column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
+  column->addWidget(makeRenameRow(maker_, opening_, *centre));
   column->addWidget(makeEntryRow(maker_, opening_, *centre));
+  column->addWidget(makeDialRow(maker_, opening_, *centre));
 
   auto* pages = new QStackedWidget(centre);
   pages->addWidget(makeSplashPage(opening_, *pages));
@@ -106,6 +117,7 @@ void MainWindow::makeCentre() {
   splash->setShower([pages](bool shown) { pages->setCurrentIndex(shown ? 0 : 1); });
   maker_.bindings().add(std::move(splash));
   makeOverlays(maker_, opening_, *centre);
+  makeDialCards(maker_, opening_, *centre, *menus_);
 }
 
 /// Timers, and the labels and lists that hold state: should a tool show one, it is seen.
@@ -186,6 +198,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
   const std::string name = keyName(*event);
   if (!name.empty() && opening_.key.hasHandlers()) maker_.dispatcher().raise(opening_.key, name);
   if (name == "Escape" && opening_.ListMRU.visible()) opening_.ListMRU.hide();
+  if (name == "Escape") putDialToolsAway(maker_.dispatcher(), opening_);
   maker_.dispatcher().sync();
   QMainWindow::keyPressEvent(event);
 }

@@ -4,11 +4,8 @@
 #include "desktop/window/headings.h"
 #include "desktop/window/overlay.h"
 
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -99,25 +96,6 @@ void makeBracketCard(Maker& maker, front::Opening& opening, QWidget& over) {
   });
 }
 
-void makeDialCard(Maker& maker, front::Opening& opening, QWidget& over) {
-  auto* card = new Overlay(over, [](const QRect& area, const QSize&) {
-    return inTheMiddle(area, {460, 380});
-  });
-  auto* outside = new QVBoxLayout(card);
-  auto& frame = maker.frame(opening.FrameDialHiding, *card);
-  frame.setFlat(true);
-  outside->addWidget(&frame);
-  auto* column = new QVBoxLayout(&frame);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(&maker.list(opening.ListHideDialsChannels, frame), 1);
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(maker.make(opening.OptionAlphabetize, frame));
-  buttons->addStretch();
-  buttons->addWidget(maker.make(opening.CommandDialHideDone, frame));
-  column->addLayout(buttons);
-  maker.showWhileAny(*card, {&opening.FrameDialHiding});
-}
-
 void makeNotesCard(Maker& maker, front::Opening& opening, QWidget& over) {
   auto* card = new Overlay(over, [](const QRect& area, const QSize&) {
     return inTheMiddle(area, {460, 300});
@@ -142,7 +120,6 @@ void makeNotesCard(Maker& maker, front::Opening& opening, QWidget& over) {
 void makeOverlays(Maker& maker, front::Opening& opening, QWidget& over) {
   makeRecentCard(maker, opening, over);
   makeTextureCard(maker, opening, over);
-  makeDialCard(maker, opening, over);
   makeNotesCard(maker, opening, over);
   makeBracketCard(maker, opening, over);
 }

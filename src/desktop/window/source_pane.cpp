@@ -1,4 +1,5 @@
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/panes.h"
 
 #include <QFrame>
@@ -12,24 +13,30 @@ namespace norvik::desktop {
 
 namespace {
 
+QWidget* makeChannels(Maker& maker, front::Opening& opening, QWidget& parent) {
+  auto* side = new QWidget(&parent);
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto& channels = maker.list(opening.ListChannels, *side);
+  channels.setAccessibleName(QStringLiteral("Channels"));
+  column->addWidget(new ListFilter(opening.ListChannels, channels, *side));
+  column->addWidget(&channels, 1);
+  maker.showWhileAny(*side, {&opening.ListChannels});
+  return side;
+}
+
 /// The lists that are worked on one beside the other when channels are put in a new order.
 QWidget* makeChannelLists(Maker& maker, front::Opening& opening, QWidget& parent) {
   auto* lists = new QSplitter(Qt::Horizontal, &parent);
   lists->setObjectName(QStringLiteral("ChannelLists"));
   lists->setChildrenCollapsible(false);
-  auto& channels = maker.list(opening.ListChannels, *lists);
-  channels.setAccessibleName(QStringLiteral("Channels"));
-  lists->addWidget(&channels);
+  lists->addWidget(makeChannels(maker, opening, *lists));
   struct Named {
     front::ListBox* list;
     const char* name;
   };
-  for (const Named& named :
-       {Named{&opening.ListChannelsReorder, "All channels"},
-        Named{&opening.ListChannelsReorderByPart, "Channels of the part"},
-        Named{&opening.ListChannelsReorderNewOrder, "Channels in their new order"},
-        Named{&opening.ListChannelsReorderReordered, "Reordered channels"},
-        Named{&opening.ListEMCs, "Remote controls"}}) {
+  for (const Named& named : {Named{&opening.ListChannelsReorderReordered, "Reordered channels"},
+                             Named{&opening.ListEMCs, "Remote controls"}}) {
     auto& view = maker.list(*named.list, *lists);
     view.setAccessibleName(QString::fromLatin1(named.name));
     lists->addWidget(&view);
@@ -66,9 +73,7 @@ QWidget* makeSourcePane(Maker& maker, front::Opening& opening, QWidget& parent) 
 
   maker.showWhileAny(
       *pane, {&opening.LabelChannelFileName, &opening.ListChannels, &opening.LabelOpenSource,
-              &opening.ListChannelsReorder, &opening.ListChannelsReorderByPart,
-              &opening.ListChannelsReorderNewOrder, &opening.ListChannelsReorderReordered,
-              &opening.ListEMCs});
+              &opening.ListChannelsReorderReordered, &opening.ListEMCs});
   return pane;
 }
 

@@ -21,7 +21,7 @@ QToolBar* makeToolStrip(Maker& maker, front::Opening& opening, QMainWindow& wind
   using Group = std::vector<front::PictureButton*>;
   const std::vector<Group> groups{
       {&opening.PictureViewChannels, &opening.PictureCopyToDest, &opening.PictureRenameMorph,
-       &opening.PictureMirror, &opening.PictureTrash, &opening.PictureChannelReorderDone},
+       &opening.PictureMirror, &opening.PictureTrash},
       {&opening.PictureChangeRatio, &opening.PictureEMC, &opening.PictureJoints},
       {&opening.PictureScaleObj, &opening.PictureMash, &opening.PictureOBJExtract,
        &opening.PictureOBJView, &opening.PictureMapViewer},

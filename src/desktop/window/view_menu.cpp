@@ -6,7 +6,7 @@
 
 namespace norvik::desktop {
 
-void addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose) {
+QMenu* addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose) {
   struct Entry {
     Theme theme;
     const char* caption;
@@ -26,6 +26,7 @@ void addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose
     QObject::connect(action, &QAction::triggered, menu,
                      [choose, theme = entry.theme] { choose(theme); });
   }
+  return menu;
 }
 
 }  // namespace norvik::desktop

@@ -5,12 +5,13 @@
 
 #include <functional>
 
+class QMenu;
 class QMenuBar;
 
 namespace norvik::desktop {
 
 /// Adds the menu View behind those of the program: it changes how the window looks and nothing
 /// else.
-void addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose);
+QMenu* addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose);
 
 }  // namespace norvik::desktop

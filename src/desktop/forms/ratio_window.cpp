@@ -1,0 +1,84 @@
+#include "desktop/forms/ratio_window.h"
+
+#include "desktop/forms/filter_line.h"
+#include "desktop/window/headings.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace norvik::desktop {
+
+namespace {
+
+constexpr int kWidth = 560;
+constexpr int kHeight = 640;
+
+}  // namespace
+
+RatioWindow::RatioWindow(const WindowParts& parts, erc::FormListEMCs& form)
+    : FormWindow(parts.maker, form, parts.unload, parts.parent), form_(form) {
+  auto* column = new QVBoxLayout(this);
+  column->setSpacing(kPaneMargin);
+  QLabel& title = maker().pathLabel(form.LabelTitle, *this);
+  makeFileHeading(title, QStringLiteral("Figure"));
+  column->addWidget(&title);
+  list_ = &maker().list(form.ListEMCs, *this);
+  list_->setAccessibleName(QStringLiteral("Channels and links"));
+  column->addWidget(new FilterLine(maker(), form.ListEMCs, *list_, this));
+  column->addWidget(list_, 1);
+  auto* hint = new QLabel(
+      QStringLiteral(
+          "A double click on a ratio takes it below; Ctrl+Up and Ctrl+Down go from ratio "
+          "to ratio."),
+      this);
+  hint->setWordWrap(true);
+  hint->setEnabled(false);
+  column->addWidget(hint);
+  auto* line = new QHBoxLayout;
+  QLabel& word = maker().label(form.Label1, *this);
+  ratio_ = &maker().line(form.Text1, *this);
+  ratio_->setAccessibleName(QStringLiteral("New ratio"));
+  word.setBuddy(ratio_);
+  line->addWidget(&word);
+  line->addWidget(ratio_, 1);
+  column->addLayout(line);
+  // The tool chooses the field at each double click, also when it had chosen it before.
+  connect(list_, &QAbstractItemView::doubleClicked, ratio_, [this] {
+    ratio_->setFocus();
+    ratio_->selectAll();
+  });
+  list_->installEventFilter(this);
+  ratio_->installEventFilter(this);
+  resize(kWidth, kHeight);
+}
+
+bool RatioWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool arrow = key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
+    if (arrow && key->modifiers().testFlag(Qt::ControlModifier)) {
+      goToRatio(key->key() == Qt::Key_Up ? -1 : 1);
+      return true;
+    }
+  }
+  return FormWindow::eventFilter(watched, event);
+}
+
+/// Chooses the next ratio as a double click on it does.
+void RatioWindow::goToRatio(int step) {
+  front::ListBox& list = form_.ListEMCs;
+  for (int row = list.index() + step; row >= 0 && row < list.count(); row += step) {
+    if (!list.item(row).starts_with("\tDelta") || list_->isRowHidden(row)) continue;
+    list.choose(row);
+    maker().dispatcher().raise(list.doubleClicked);
+    list_->scrollTo(list_->model()->index(row, 0));
+    ratio_->setFocus();
+    ratio_->selectAll();
+    return;
+  }
+}
+
+}  // namespace norvik::desktop

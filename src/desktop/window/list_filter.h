@@ -1,0 +1,44 @@
+#pragma once
+// The box that narrows a long list.
+
+#include "desktop/bind/list_view.h"
+#include "front/list_box.h"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+
+namespace norvik::desktop {
+
+/// A line above a list: what is typed there is what the shown items hold. The list itself, its
+/// indexes and what is selected stay as they are; the line says how much of them is not shown.
+/// Escape shows all again and goes back to the list, Enter and Down go to the list.
+class ListFilter : public QWidget {
+ public:
+  ListFilter(front::ListBox& list, ListView& view, QWidget& parent);
+
+  /// Shows the line and takes the keys.
+  void open();
+  /// Shows all items again and goes back to the list.
+  void dismiss();
+
+  const ListView& view() const { return view_; }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void count();
+
+  front::ListBox& list_;
+  ListView& view_;
+  QLineEdit* edit_;
+  QLabel* count_;
+};
+
+/// Opens the filter in whose part of the window the keys are, else the last one whose list is on
+/// view.
+void openFilter(QWidget& window);
+
+}  // namespace norvik::desktop
