@@ -23,9 +23,9 @@ double median(std::vector<double> numbers) {
 constexpr const char* kWorkFile = "work.cr2";
 
 void clear(const std::string& folder) {
-  for (const char* made :
-       {"cp.out", "sed.out", "f.new", "Chop.doc", "saved.cr2", "copied.cr2", "Norvik/cr2temp.txt",
-        "Norvik/SaveMorph.txt", "Norvik/InsertMorph.txt"}) {
+  for (const char* made : {"cp.out", "sed.out", "f.new", "Chop.doc", "saved.cr2", "copied.cr2",
+                           "Norvik/cr2temp.txt", "Norvik/SaveMorph.txt", "Norvik/InsertMorph.txt",
+                           "figureNew.pz2", "mat.pz2", "Norvik/Mor.txt", "Norvik/Combine.pz2"}) {
     fs::remove(folder + "/" + made);
   }
 }

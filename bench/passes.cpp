@@ -362,12 +362,21 @@ pose::FormPZ2& poseForm(Bench& bench) {
   return form;
 }
 
-/// A pose of all parts is about as large as the figure.
-void buildPose(Bench& bench) {
+void listParts(Bench& bench) {
   pose::FormPZ2& form = poseForm(bench);
   pose::ListTheActorsPZ2(bench.session, form);
   mustHold(form.ListActorsPZ2.count() > 0, "no parts");
-  for (const std::string& part : form.ListActorsPZ2.items()) form.ListActorsWanted.add(part);
+}
+
+/// A pose of all parts is about as large as the figure.
+void buildPose(Bench& bench) {
+  pose::FormPZ2& form = poseForm(bench);
+  for (const char* part :
+       {"BODY",     "hip",   "abdomen", "chest",  "neck",     "head",  "rCollar", "rShldr",
+        "rForeArm", "rHand", "lCollar", "lShldr", "lForeArm", "lHand", "rThigh",  "rShin",
+        "rFoot",    "rToe",  "lThigh",  "lShin",  "lFoot",    "lToe"}) {
+    form.ListActorsWanted.add(part);
+  }
   pose::buildPose(bench.session, form);
   mustHold(bench.disk.exists("C:\\figureNew.pz2"), "no pose");
 }
@@ -467,7 +476,8 @@ const std::vector<Pass>& passes() {
       pass("addition of materials", rewrite, plain, addMaterials),
       pass("alternate geometry", rewrite, plain, addGeometry),
       pass("figure out of a scene", rewrite, plain, takeFigureOut),
-      pass("pose, list and copy of all parts", rewrite, plain, buildPose),
+      pass("list of a pose's parts", read, plain, listParts),
+      pass("pose of all parts", rewrite, plain, buildPose),
       pass("MAT file, lists and copy", rewrite, plain, buildMat),
       pass("MOR skeleton", read, plain, writeSkeleton),
       pass("weld, the pose that receives", rewrite, plain, mergePoses)};

@@ -142,7 +142,7 @@ front::Answer WindowAsker::box(const Box& asked) {
 std::optional<front::Answer> WindowAsker::repeatedBox(const Box& asked) {
   bool all = false;
   const int button = exec(asked, [&all](QMessageBox& box) {
-    const auto* forAll = box.addButton(QStringLiteral("OK for &all"), QMessageBox::YesRole);
+    const QPushButton* forAll = box.addButton(QStringLiteral("OK for &all"), QMessageBox::YesRole);
     QObject::connect(forAll, &QPushButton::clicked, &box, [&all] { all = true; });
   });
   if (all) return std::nullopt;
