@@ -1,11 +1,13 @@
 #include "passes.h"
 
+#include "bench_desk.h"
 #include "builders/transfer/graft_part.h"
 #include "channels/channel_views.h"
 #include "channels/copy_morph.h"
 #include "channels/removal/morph_removal.h"
 #include "channels/removal/part_removal.h"
 #include "channels/renaming/rename_passes.h"
+#include "dial_passes.h"
 #include "erc/change_ratio.h"
 #include "erc/link_kinds.h"
 #include "erc/link_writer.h"
@@ -20,8 +22,6 @@
 #include "figure/path_pass.h"
 #include "figure/save.h"
 #include "figure/space_chopper.h"
-#include "headless/script_front_end.h"
-#include "host.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
 #include "pose/mat_builder.h"
@@ -31,60 +31,10 @@
 #include "pose/pose_builder.h"
 #include "pose/weld_merge.h"
 #include "text/line_reader.h"
-#include "workbench/workbench.h"
-
-#include <ostream>
-#include <stdexcept>
 
 namespace norvik::bench {
 
 namespace {
-
-/// A workbench whose drive C is the bench's folder, with a script in front of it that prints
-/// nowhere.
-class Bench {
- public:
-  Bench(const std::string& folder, const std::string& file) : path("C:\\" + file) {
-    disk.mount('C', folder);
-    settings.set("Startup", "PLoc", "C:\\");
-    opening.OpenedPath = path;
-    opening.DestPath = path;
-    opening.LabelFileNameForEditor.setCaption(path);
-    opening.LabelChannelFileNameForEditor.setCaption(path);
-    front_.setStep([this] {
-      if (steps.empty()) return false;
-      opening.FileLabel.setCaption(steps.front());
-      steps.erase(steps.begin());
-      return true;
-    });
-  }
-
-  headless::Answers& answers() { return front_.answers(); }
-  void choose(const std::string& name) {
-    answers().queueDialog({headless::DialogAnswer::Kind::file, "C:\\" + name});
-  }
-
- private:
-  UnflushedHost host_;
-  std::ostream nowhere_{nullptr};
-  headless::Transcript transcript_{nowhere_};
-  headless::Outcome outcome_;
-  headless::ScriptFrontEnd front_{transcript_, outcome_, {}};
-
- public:
-  std::string path;
-  text::Disk disk{host_};
-  front::Settings settings;
-  workbench::Workbench workbench{front_, disk, settings, "C:\\Norvik", ""};
-  front::Session& session = workbench.session();
-  front::Opening& opening = session.opening;
-  std::vector<std::string> steps;  ///< the files that are picked one after the other
-};
-
-/// A pass must have done its work to count.
-void mustHold(bool truth, const char* what) {
-  if (!truth) throw std::runtime_error(what);
-}
 
 using Work = std::function<void(Bench& bench)>;
 
@@ -174,67 +124,6 @@ void renameMorph(Bench& bench) {
 void renamePart(Bench& bench) {
   text::RewritePass pass(bench.disk, bench.path, "C:\\Norvik\\RenMorph.txt");
   channels::renamePart(pass, {"head:1", "skull:1"});
-}
-
-constexpr const char* kLateEntry = "    lToe:1 * 5";
-constexpr const char* kLateDial = "lToe:1*lToeExtra300^ 5@lToeExtra300";
-
-void reorder(Bench& bench) {
-  bench.opening.ListChannelsReorderNewOrder.add(kLateDial);
-  bench.choose("reordered.cr2");
-  bench.opening.PictureChannelReorderDone.released.raise({});
-  mustHold(bench.disk.exists("C:\\reordered.cr2"), "nothing reordered");
-}
-
-void listAndHideDials(Bench& bench) {
-  bench.opening.menuHideDialsChannels.clicked.raise();
-  mustHold(bench.opening.ListHideDialsChannels.count() > 1, "no dials");
-  bench.choose("hidden.cr2");
-  bench.opening.CommandDialHideDone.clicked.raise();
-  mustHold(bench.disk.exists("C:\\hidden.cr2"), "nothing hidden");
-}
-
-void changeTrackingSpeed(Bench& bench) {
-  front::Opening& opening = bench.opening;
-  opening.ListChannelsReorder.add(kLateDial);
-  opening.ListChannelsReorder.choose(0);
-  opening.ListChannelsReorder.clicked.raise();
-  mustHold(!opening.TextTrackingSpeed.text().empty(), "no speed");
-  opening.TextTrackingSpeed.setText("0.03");
-  opening.TextTrackingSpeed.key.raise("Enter");
-}
-
-void mirrorMorph(Bench& bench) {
-  bench.opening.PictureMirror.show();
-  bench.opening.MirrorMorph = "lToeExtra300";
-  bench.opening.ListActors.add(kLateEntry);
-  bench.opening.ListActors.choose(0);
-  bench.answers().queueBox(front::Answer::no);
-  bench.opening.ListActors.doubleClicked.raise();
-  mustHold(bench.disk.exists("C:\\Norvik\\mirmorph.cr2"), "nothing mirrored");
-}
-
-void transferJoints(Bench& bench) {
-  front::Opening& opening = bench.opening;
-  opening.LabelFileName.setCaption("destination");
-  opening.LabelChannelFileName.setCaption("source");
-  for (front::ListBox* list : {&opening.ListChannels, &opening.ListActors}) {
-    list->add(kLateEntry);
-    list->choose(0);
-  }
-  opening.PictureJoints.released.raise({});
-  mustHold(bench.disk.exists("C:\\Norvik\\jointfile.txt"), "no joints");
-}
-
-void removeIkChains(Bench& bench) {
-  bench.answers().queueBox(front::Answer::yes);
-  bench.opening.MenuDumpIK.clicked.raise();
-}
-
-void makeUnique(Bench& bench) {
-  bench.opening.TextERCUnique.setText("Ann");
-  bench.opening.TextERCUnique.key.raise("Enter");
-  mustHold(bench.disk.exists("C:\\figure_Unique.cr2"), "no copy");
 }
 
 /// What FormECM holds behind its choices; the result stays in the scratch file.

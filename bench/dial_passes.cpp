@@ -1,0 +1,70 @@
+#include "dial_passes.h"
+
+namespace norvik::bench {
+
+namespace {
+
+constexpr const char* kLateEntry = "    lToe:1 * 5";
+constexpr const char* kLateDial = "lToe:1*lToeExtra300^ 5@lToeExtra300";
+
+}  // namespace
+
+void reorder(Bench& bench) {
+  bench.opening.ListChannelsReorderNewOrder.add(kLateDial);
+  bench.choose("reordered.cr2");
+  bench.opening.PictureChannelReorderDone.released.raise({});
+  mustHold(bench.disk.exists("C:\\reordered.cr2"), "nothing reordered");
+}
+
+void listAndHideDials(Bench& bench) {
+  bench.opening.menuHideDialsChannels.clicked.raise();
+  mustHold(bench.opening.ListHideDialsChannels.count() > 1, "no dials");
+  bench.choose("hidden.cr2");
+  bench.opening.CommandDialHideDone.clicked.raise();
+  mustHold(bench.disk.exists("C:\\hidden.cr2"), "nothing hidden");
+}
+
+void changeTrackingSpeed(Bench& bench) {
+  front::Opening& opening = bench.opening;
+  opening.ListChannelsReorder.add(kLateDial);
+  opening.ListChannelsReorder.choose(0);
+  opening.ListChannelsReorder.clicked.raise();
+  mustHold(!opening.TextTrackingSpeed.text().empty(), "no speed");
+  opening.TextTrackingSpeed.setText("0.03");
+  opening.TextTrackingSpeed.key.raise("Enter");
+}
+
+void mirrorMorph(Bench& bench) {
+  bench.opening.PictureMirror.show();
+  bench.opening.MirrorMorph = "lToeExtra300";
+  bench.opening.ListActors.add(kLateEntry);
+  bench.opening.ListActors.choose(0);
+  bench.answers().queueBox(front::Answer::no);
+  bench.opening.ListActors.doubleClicked.raise();
+  mustHold(bench.disk.exists("C:\\Norvik\\mirmorph.cr2"), "nothing mirrored");
+}
+
+void transferJoints(Bench& bench) {
+  front::Opening& opening = bench.opening;
+  opening.LabelFileName.setCaption("destination");
+  opening.LabelChannelFileName.setCaption("source");
+  for (front::ListBox* list : {&opening.ListChannels, &opening.ListActors}) {
+    list->add(kLateEntry);
+    list->choose(0);
+  }
+  opening.PictureJoints.released.raise({});
+  mustHold(bench.disk.exists("C:\\Norvik\\jointfile.txt"), "no joints");
+}
+
+void removeIkChains(Bench& bench) {
+  bench.answers().queueBox(front::Answer::yes);
+  bench.opening.MenuDumpIK.clicked.raise();
+}
+
+void makeUnique(Bench& bench) {
+  bench.opening.TextERCUnique.setText("Ann");
+  bench.opening.TextERCUnique.key.raise("Enter");
+  mustHold(bench.disk.exists("C:\\figure_Unique.cr2"), "no copy");
+}
+
+}  // namespace norvik::bench
