@@ -2,7 +2,7 @@
 # that forgets to include what it uses does not compile there.
 
 # Headers that nearly every source of a target takes in, compiled once for it: those of the standard library, of
-# Qt and of GoogleTest, never the project's own. The core has too few of them to gain by it.
+# Qt and of GoogleTest, never the project's own.
 function(norvik_precompile target)
   if(NORVIK_PRECOMPILED)
     target_precompile_headers(${target} PRIVATE ${ARGN})

@@ -6,7 +6,9 @@
 
 #include <QPrinter>
 #include <QString>
+#include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace norvik::desktop {
@@ -16,19 +18,30 @@ class Asker {
  public:
   virtual ~Asker() = default;
 
-  virtual front::Answer box(const QString& title, const QString& text, int style) = 0;
-  /// The same, with a way to look at what a Yes would change before it is said.
-  virtual front::Answer boxWithChanges(const QString& title, const QString& text, int style,
-                                       const ComparedFiles&) {
-    return box(title, text, style);
+  struct Box {
+    QString title{};
+    QString text{};
+    int style = 0;
+    QString note{};         ///< the window's own, below the text; may be empty
+    bool cautious = false;  ///< a key pressed in haste refuses
+    /// What a Yes would change, for a look at it before it is said.
+    std::optional<ComparedFiles> changes{};
+  };
+  virtual front::Answer box(const Box& box) = 0;
+  front::Answer box(const QString& title, const QString& text, int style) {
+    return box({.title = title, .text = text, .style = style});
   }
 
   struct File {
     bool save = false;
-    QString title;
-    QString filter;  ///< in the window's form; empty for all files
-    QString folder;  ///< host names
-    QString name;
+    QString title{};
+    QString filter{};  ///< in the window's form; empty for all files
+    QString folder{};  ///< host names
+    QString name{};
+    QString hint{};        ///< below the dialog's own parts; may be empty
+    QStringList places{};  ///< folders at the side, behind the usual ones
+    /// The host path of a path on a drive such as C:\Poser; empty for any other text.
+    std::function<QString(const QString&)> hostPath{};
   };
   virtual std::optional<QString> file(const File& file) = 0;
   virtual std::optional<front::Colour> colour(front::Colour initial) = 0;

@@ -1,5 +1,7 @@
 #include "desktop/desktop_front_end.h"
 
+#include "desktop/chooser_places.h"
+#include "desktop/drives.h"
 #include "desktop/fetcher.h"
 #include "desktop/launcher.h"
 #include "desktop/printing.h"
@@ -37,6 +39,38 @@ class ArrowMeanwhile {
   bool hourglass_;
 };
 
+/// Which file an error is about, and what was being done with it.
+QString whatWasDone(const text::FileError& error) {
+  using text::FileAct;
+  if (error.path().empty()) return {};
+  const auto doing = [&]() -> const char* {
+    switch (error.act()) {
+      case FileAct::lookingFor:
+        return "While looking for";
+      case FileAct::reading:
+        return "While reading";
+      case FileAct::writing:
+        return "While writing";
+      case FileAct::deleting:
+        return "While deleting";
+      case FileAct::moving:
+        return "While moving a file to";
+      case FileAct::replacing:
+        return "While replacing";
+      case FileAct::makingFolder:
+        return "While making the folder";
+      case FileAct::changingAttribute:
+        return "While changing the attributes of";
+      case FileAct::changingFolder:
+        return "While changing to the folder";
+      case FileAct::unknown:
+        break;
+    }
+    return "The file is";
+  };
+  return QString::fromLatin1(doing()) + QLatin1Char(' ') + shown(error.path());
+}
+
 }  // namespace
 
 DesktopFrontEnd::DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk)
@@ -54,9 +88,13 @@ front::Answer DesktopFrontEnd::messageBox(std::string_view text, std::string_vie
                                           int style) {
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);
-  const auto files = changesOnOffer(style);
-  if (!files) return asker_.box(shown(title), shownMessage(text), style);
-  return asker_.boxWithChanges(shown(title), shownMessage(text), style, *files);
+  const std::string note = dispatcher_.attached() ? dispatcher_.session().caution() : std::string{};
+  return asker_.box({.title = shown(title),
+                     .text = shownMessage(text),
+                     .style = style,
+                     .note = shownMessage(note),
+                     .cautious = !note.empty(),
+                     .changes = changesOnOffer(style)});
 }
 
 /// A finished result and the figure that it was made from, while the operator is asked about it.
@@ -96,12 +134,17 @@ std::optional<std::string> DesktopFrontEnd::fileDialog(const front::FileDialog& 
   dispatcher_.sync();
   if (chosen_ && dialog.kind == Kind::open) return std::exchange(chosen_, std::nullopt);
   const ArrowMeanwhile arrow(hourglass_);
-  const auto answer = asker_.file({.save = dialog.kind == Kind::save,
-                                   .title = shown(dialog.title),
-                                   .filter = windowFilter(dialog.filter),
-                                   .folder = hostFolder(dialog.folder),
-                                   .name = proposedName(dialog.file)});
+  const auto answer = asker_.file(
+      {.save = dialog.kind == Kind::save,
+       .title = shown(dialog.purpose.empty() ? dialog.title : dialog.purpose),
+       .filter = windowFilter(dialog.filter),
+       .folder = hostFolder(dialog.folder),
+       .name = proposedName(dialog.file),
+       .hint = shownMessage(dialog.hint),
+       .places = dispatcher_.attached() ? chooserPlaces(dispatcher_.session()) : QStringList(),
+       .hostPath = [this](const QString& text) { return hostPathOf(disk_, text); }});
   if (!answer) return std::nullopt;
+  if (dispatcher_.attached()) rememberPlace(dispatcher_.session(), *answer);
   return disk_.systemPath(hostBytes(*answer));
 }
 
@@ -217,7 +260,15 @@ bool DesktopFrontEnd::drawTile(front::Form&, int left, int top) {
 
 void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
                                    std::string_view folder) {
-  openWithDesktop(disk_, target, folder);
+  if (openWithDesktop(disk_, target, folder)) return;
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  const QString guide = guideFolder();
+  asker_.box(
+      {.title = QStringLiteral("Norvik"),
+       .text = QStringLiteral("Nothing on this system opens %1").arg(shownMessage(target)),
+       .style = front::kExclamation,
+       .note = guide.isEmpty() ? QString() : QStringLiteral("The guide lies in %1").arg(guide)});
 }
 
 void DesktopFrontEnd::run(std::string_view commandLine) {
@@ -237,9 +288,12 @@ std::string DesktopFrontEnd::now() const {
 }
 
 void DesktopFrontEnd::runtimeError(const text::FileError& error) {
-  messageBox("Run-time error '" + std::to_string(static_cast<int>(error.number())) +
-                 "': " + std::string{error.text()},
-             "Norvik", front::kCritical);
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  const std::string text = "Run-time error '" + std::to_string(static_cast<int>(error.number())) +
+                           "': " + std::string{error.text()};
+  asker_.box(
+      {QStringLiteral("Norvik"), shown(text), front::kCritical, whatWasDone(error), false, {}});
 }
 
 void DesktopFrontEnd::endProcess() {

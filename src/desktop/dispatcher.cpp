@@ -9,6 +9,7 @@ bool Dispatcher::run(std::string_view trigger, const std::function<void()>& hand
   session_->deliver(trigger, handler);
   open_ = true;
   sync();
+  if (rest_) rest_();
   return true;
 }
 

@@ -23,6 +23,9 @@ class Dispatcher {
   /// Whether what happens now is delivered.
   bool open() const { return open_ && session_ != nullptr; }
 
+  /// What is done when a handler has come to its end, however it ended.
+  void setRest(std::function<void()> rest) { rest_ = std::move(rest); }
+
   /// Runs a handler through the session; false if a running one keeps the door shut. The trigger is
   /// the name of what set it off.
   bool run(std::string_view trigger, const std::function<void()>& handler);
@@ -60,6 +63,7 @@ class Dispatcher {
  private:
   front::Session* session_ = nullptr;
   std::function<void()> sync_;
+  std::function<void()> rest_;
   bool open_ = true;
   std::uint64_t delivered_ = 0;
 };

@@ -1,5 +1,6 @@
 #include "desktop/drives.h"
 
+#include "desktop/words.h"
 #include "text/columns.h"
 
 #include <cstdlib>
@@ -76,6 +77,14 @@ std::string historyFolder() {
 bool isSystemPath(const text::Disk& disk, std::string_view path) {
   const bool formed = path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/');
   return formed && disk.hasDrive(path[0]);
+}
+
+QString hostPathOf(const text::Disk& disk, const QString& path) {
+  const std::string bytes = path.trimmed().toStdString();
+  if (!isSystemPath(disk, bytes)) return {};
+  QString host;
+  text::ignoringErrors([&] { host = hostName(disk.hostPath(bytes)); });
+  return host;
 }
 
 std::string systemPathOf(const text::Disk& disk, const std::string& path) {

@@ -4,6 +4,8 @@
 #include "desktop/options.h"
 #include "text/disk.h"
 
+#include <QString>
+
 #include <string>
 
 namespace norvik::desktop {
@@ -26,6 +28,9 @@ std::string historyFolder();
 
 /// Whether a path begins with a drive that there is and a backslash or slash.
 bool isSystemPath(const text::Disk& disk, std::string_view path);
+
+/// The host path of a system path; empty for any other text, and for one that no file can have.
+QString hostPathOf(const text::Disk& disk, const QString& path);
 
 /// The system path of a path of either kind: a system path as it is, a host path, which may begin
 /// in the current folder, by the drive that holds it, or as it stands when no drive does.

@@ -3,7 +3,9 @@
 #include "desktop/words.h"
 #include "text/columns.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
@@ -27,6 +29,18 @@ std::size_t programLength(const text::Disk& disk, std::string_view line) {
 
 QUrl fileAddress(const text::Disk& disk, std::string_view path) {
   return QUrl::fromLocalFile(hostName(disk.hostPath(path)));
+}
+
+/// Whether a page would be seen. The desktop's own opener takes every address and may then have
+/// nobody to hand it to.
+bool hasBrowser() {
+  constexpr int kPatience = 1000;  // milliseconds
+  const QString tool = QStandardPaths::findExecutable(QStringLiteral("xdg-settings"));
+  if (tool.isEmpty() || qEnvironmentVariableIsSet("BROWSER")) return true;
+  QProcess question;
+  question.start(tool, {QStringLiteral("get"), QStringLiteral("default-web-browser")});
+  if (!question.waitForFinished(kPatience)) return true;
+  return question.exitCode() != 0 || !question.readAllStandardOutput().trimmed().isEmpty();
 }
 
 bool isAddress(std::string_view target) {
@@ -55,14 +69,22 @@ void startCommandLine(const text::Disk& disk, std::string_view commandLine) {
   QProcess::startDetached(loader, arguments, file.path());
 }
 
-void openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder) {
+bool openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder) {
   if (isAddress(target)) {
-    QDesktopServices::openUrl(QUrl(shown(target)));
-    return;
+    return hasBrowser() && QDesktopServices::openUrl(QUrl(shown(target)));
   }
   std::string path{target};
   if (!disk.exists(path) && !folder.empty()) path = std::string{folder} + "\\" + path;
-  QDesktopServices::openUrl(fileAddress(disk, path));
+  return QDesktopServices::openUrl(fileAddress(disk, path));
+}
+
+QString guideFolder() {
+  const QDir program(QCoreApplication::applicationDirPath());
+  for (const char* const place : {"../share/doc/norvik", "../../docs"}) {
+    const QString folder = QDir::cleanPath(program.filePath(QString::fromLatin1(place)));
+    if (QFileInfo::exists(folder + QStringLiteral("/window.md"))) return folder;
+  }
+  return {};
 }
 
 }  // namespace norvik::desktop

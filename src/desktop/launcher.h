@@ -3,6 +3,8 @@
 
 #include "text/disk.h"
 
+#include <QString>
+
 #include <string_view>
 
 namespace norvik::desktop {
@@ -13,6 +15,10 @@ namespace norvik::desktop {
 void startCommandLine(const text::Disk& disk, std::string_view commandLine);
 
 /// Opens a page or a document with what the desktop uses for it.
-void openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder);
+bool openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder);
+
+/// The host folder that the guide lies in; empty if it is not where an installation or the source
+/// has it.
+QString guideFolder();
 
 }  // namespace norvik::desktop

@@ -23,7 +23,7 @@ constexpr int kFailed = 4;
 int run(int count, char** arguments) {
   QApplication application(count, arguments);
   QApplication::setApplicationName(QStringLiteral("norvik"));
-  QApplication::setDesktopFileName(QStringLiteral("norvik"));
+  QApplication::setDesktopFileName(QStringLiteral("org.norvik.Norvik"));
   // The window system has taken its own options out.
   const desktop::Options options = desktop::parseOptions({arguments + 1, arguments + count});
   desktop::WindowAsker asker;

@@ -3,6 +3,7 @@
 #include "desktop/drives.h"
 #include "desktop/theme.h"
 #include "desktop/window/place.h"
+#include "lifecycle/given_file.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -43,6 +44,7 @@ Program::~Program() = default;
 
 void Program::start() {
   dispatcher_.run([this] { workbench_->start(); });
+  dispatcher_.run([this] { lifecycle::openGivenFile(workbench_->session()); });
 }
 
 }  // namespace norvik::desktop

@@ -1,9 +1,13 @@
 #include "desktop/window_asker.h"
 
+#include "desktop/file_chooser.h"
+
 #include <QApplication>
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QDir>
-#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
@@ -42,7 +46,7 @@ QMessageBox::Icon iconOf(int style) {
   }
 }
 
-QMessageBox::StandardButton escapeOf(int style) {
+QMessageBox::StandardButton refusalOf(int style) {
   switch (style & front::kButtonMask) {
     case front::kOk:
       return QMessageBox::Ok;
@@ -66,6 +70,37 @@ front::Answer answerOf(int button) {
   }
 }
 
+/// A box of the tools. Where it has no Cancel, neither the escape key nor the close box answers it:
+/// a No may throw away what the operator has done.
+class QuestionBox : public QMessageBox {
+ public:
+  QuestionBox(Icon icon, const Asker::Box& asked, StandardButtons buttons, QWidget* owner,
+              bool mustAnswer)
+      : QMessageBox(icon, asked.title, asked.text, buttons, owner), mustAnswer_(mustAnswer) {
+    setObjectName(QStringLiteral("MessageBox"));
+    setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (mustAnswer) setWindowFlag(Qt::WindowCloseButtonHint, false);
+    if (asked.note.isEmpty()) return;
+    setInformativeText(asked.note);
+    auto* note = findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+    if (note != nullptr) note->setTextFormat(Qt::PlainText);
+  }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override {
+    if (mustAnswer_) return event->ignore();
+    QMessageBox::closeEvent(event);
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (mustAnswer_ && event->matches(QKeySequence::Cancel)) return event->accept();
+    QMessageBox::keyPressEvent(event);
+  }
+
+ private:
+  bool mustAnswer_;
+};
+
 QWidget* owner() {
   return QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget()
                                                       : QApplication::activeWindow();
@@ -82,38 +117,22 @@ void addChangesButton(QMessageBox& box, const ComparedFiles& files) {
                    [&box, files] { showChanges(files, &box); });
 }
 
-front::Answer ask(const QString& title, const QString& text, int style,
-                  const ComparedFiles* files) {
-  QMessageBox box(iconOf(style), title, text, buttonsOf(style), owner());
-  if (files != nullptr) addChangesButton(box, *files);
-  box.setObjectName(QStringLiteral("MessageBox"));
-  box.setTextFormat(Qt::PlainText);
-  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-  box.setEscapeButton(escapeOf(style));
+front::Answer WindowAsker::box(const Box& asked) {
+  const bool mustAnswer = (asked.style & front::kButtonMask) == front::kYesNo;
+  QuestionBox box(iconOf(asked.style), asked, buttonsOf(asked.style), owner(), mustAnswer);
+  if (asked.changes) addChangesButton(box, *asked.changes);
+  const auto refusal = refusalOf(asked.style);
+  if (!mustAnswer) box.setEscapeButton(refusal);
+  if (asked.cautious) box.setDefaultButton(refusal);
   const int button = box.exec();
-  // A box that goes away unanswered, with its window, says what the escape key says.
-  return answerOf(button == QDialog::Rejected ? int{escapeOf(style)} : button);
-}
-
-}  // namespace
-
-front::Answer WindowAsker::box(const QString& title, const QString& text, int style) {
-  return ask(title, text, style, nullptr);
-}
-
-front::Answer WindowAsker::boxWithChanges(const QString& title, const QString& text, int style,
-                                          const ComparedFiles& files) {
-  return ask(title, text, style, &files);
+  // A box that goes away unanswered, with its window, refuses.
+  return answerOf(button == QDialog::Rejected ? int{refusal} : button);
 }
 
 std::optional<QString> WindowAsker::file(const File& file) {
-  QFileDialog dialog(owner(), file.title, file.folder, file.filter);
-  dialog.setObjectName(QStringLiteral("FileDialog"));
-  dialog.setAcceptMode(file.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(file.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  if (!file.name.isEmpty()) dialog.selectFile(file.name);
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return QDir::cleanPath(dialog.selectedFiles().constFirst());
+  FileChooser chooser(file, owner());
+  if (chooser.exec() != QDialog::Accepted || chooser.chosen().isEmpty()) return std::nullopt;
+  return QDir::cleanPath(chooser.chosen());
 }
 
 std::optional<front::Colour> WindowAsker::colour(front::Colour initial) {

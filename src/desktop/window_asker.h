@@ -7,9 +7,8 @@ namespace norvik::desktop {
 
 class WindowAsker : public Asker {
  public:
-  front::Answer box(const QString& title, const QString& text, int style) override;
-  front::Answer boxWithChanges(const QString& title, const QString& text, int style,
-                               const ComparedFiles& files) override;
+  using Asker::box;
+  front::Answer box(const Box& box) override;
   std::optional<QString> file(const File& file) override;
   std::optional<front::Colour> colour(front::Colour initial) override;
   bool printer(QPrinter& printer) override;

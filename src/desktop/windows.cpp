@@ -1,6 +1,7 @@
 #include "desktop/windows.h"
 
 #include "desktop/forms/form_windows.h"
+#include "desktop/window/place.h"
 
 #include <QCoreApplication>
 
@@ -16,11 +17,13 @@ Windows::Windows(Dispatcher& dispatcher, front::Session& session, DesktopFrontEn
       maker_(dispatcher, bindings_) {
   main_ = std::make_unique<MainWindow>(maker_, session, frontEnd, system);
   dispatcher_.setSync([this] { sync(); });
+  dispatcher_.setRest([this] { rest(); });
   frontEnd.setStage(*this);
 }
 
 Windows::~Windows() {
   dispatcher_.setSync({});
+  dispatcher_.setRest({});
 }
 
 void Windows::sync() {
@@ -30,6 +33,11 @@ void Windows::sync() {
   }
   main_->sync();
   for (const auto& [form, window] : others_) window->sync();
+}
+
+void Windows::rest() {
+  main_->rest();
+  for (const auto& [form, window] : others_) window->rest();
 }
 
 void Windows::setBusy(bool busy) {
@@ -65,12 +73,14 @@ void Windows::show(front::Form& form, bool modal) {
   if (&form == &session_.opening) {
     main_->restorePlace();
     main_->show();
+    keepOnScreen(*main_);
     return;
   }
   FormWindow& window = windowOf(form);
   window.setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
   bindings_.updateAll(form);
   window.show();
+  keepOnScreen(window);
   window.raise();
   window.activateWindow();
 }

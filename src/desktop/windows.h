@@ -3,6 +3,7 @@
 
 #include "desktop/desktop_front_end.h"
 #include "desktop/maker.h"
+#include "desktop/window/focus_ring.h"
 #include "desktop/window/form_window.h"
 #include "desktop/window/main_window.h"
 
@@ -31,6 +32,7 @@ class Windows : public Stage {
 
  private:
   void sync();
+  void rest();
   void followFocus(front::Form& form);
   FormWindow& windowOf(front::Form& form);
   std::unique_ptr<FormWindow> makeWindow(front::Form& form);
@@ -42,6 +44,7 @@ class Windows : public Stage {
   Maker maker_;
   std::unique_ptr<MainWindow> main_;
   std::map<front::Form*, std::unique_ptr<FormWindow>> others_;
+  FocusRing ring_;
   std::map<front::Form*, front::Control*> focus_;  ///< as it was last seen
 };
 

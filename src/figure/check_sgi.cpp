@@ -12,8 +12,25 @@ namespace {
 
 constexpr std::size_t kExaminedBytes = 200;
 
+/// Whether there are bytes of 0 near the beginning, which no text has.
+bool isNoText(const text::Disk& disk, const std::string& path) {
+  constexpr std::size_t kLookedAt = 8192;
+  return text::ByteReader(disk, path).read(kLookedAt).find('\0') != std::string_view::npos;
+}
+
 bool isConventional(const text::Disk& disk, const std::string& path) {
   return text::holds(text::ByteReader(disk, path).read(kExaminedBytes), "\r\n");
+}
+
+bool mayRepair(front::Session& session, const std::string& path) {
+  const front::Caution caution(
+      session, isNoText(session.disk, path)
+                   ? "This is no text file: it holds bytes of 0. The repair would spoil it."
+                   : "");
+  return session.front.messageBox(
+             "Norvik may not be able to process this file, due to its unconventional construction. "
+             " Click OK to backup and continue, or Cancel.",
+             "Sorry!", front::kOkCancel) != front::Answer::cancel;
 }
 
 void convert(front::Session& session, const std::string& path, const std::string& scratchPath) {
@@ -39,12 +56,7 @@ void CheckSGI(front::Session& session, std::string& path) {
   if (isConventional(session.disk, path)) return;
 
   session.front.beep();
-  const front::Answer answer = session.front.messageBox(
-      "Norvik may not be able to process this file, due to its unconventional construction.  Click "
-      "OK "
-      "to backup and continue, or Cancel.",
-      "Sorry!", front::kOkCancel);
-  if (answer == front::Answer::cancel) {
+  if (!mayRepair(session, path)) {
     session.opening.OpenCancelled = true;
     return;
   }

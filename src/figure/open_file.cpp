@@ -40,7 +40,11 @@ void openFile(front::Session& session) {
     savePathsBeforeOpen(session);
   }
   if (!opening.SkipOpenDialog) {
-    if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder())) return;
+    if (!opening.CommonDialog1.open(
+            session.front, session.disk.currentFolder(), "Open",
+            {"Open a figure, scene, prop or mesh", front::kFigureFilter, {}})) {
+      return;
+    }
     leaveChannelReorder(opening);
     opening.OpenedPath = opening.CommonDialog1.fileName();
     front::AddMRUItem(opening, opening.OpenedPath);

@@ -8,20 +8,22 @@ std::string_view CommonDialog::fileTitle() const {
   return text::fileTitle(fileName_);
 }
 
-bool CommonDialog::open(FrontEnd& front, std::string_view folder, std::string_view title) {
-  return show(front, FileDialog::Kind::open, title, folder);
+bool CommonDialog::open(FrontEnd& front, std::string_view folder, std::string_view title,
+                        const DialogWords& words) {
+  return show(front, FileDialog::Kind::open, title, folder, words);
 }
 
 bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_view proposed,
-                        std::string_view title) {
+                        std::string_view title, const DialogWords& words) {
   fileName_ = proposed;
-  return show(front, FileDialog::Kind::save, title, folder);
+  return show(front, FileDialog::Kind::save, title, folder, words);
 }
 
 bool CommonDialog::show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
-                        std::string_view folder) {
-  const auto chosen =
-      front.fileDialog({kind, name_, std::string{title}, filter_, std::string{folder}, fileName_});
+                        std::string_view folder, const DialogWords& words) {
+  const auto chosen = front.fileDialog(
+      {kind, name_, std::string{title}, words.filter.empty() ? filter_ : std::string{words.filter},
+       std::string{folder}, fileName_, std::string{words.purpose}, std::string{words.hint}});
   if (chosen) fileName_ = *chosen;
   return chosen.has_value();
 }

@@ -8,6 +8,20 @@
 
 namespace norvik::front {
 
+/// What a window says about a dialog: what the file is for, the kinds of files it may be, and a
+/// hint. None of it changes what can be chosen.
+struct DialogWords {
+  std::string_view purpose;
+  std::string_view filter;
+  std::string_view hint;
+};
+
+inline constexpr std::string_view kFigureFilter =
+    "Poser files and meshes|*.cr2;*.pz3;*.pp2;*.hr2;*.fc2;*.pz2;*.obj;*.mtl;*.bmp|"
+    "Figures (CR2)|*.cr2|All files|*.*";
+inline constexpr std::string_view kCharacterFilter = "Figures (CR2)|*.cr2|All files|*.*";
+inline constexpr std::string_view kMeshFilter = "Meshes (OBJ)|*.obj|All files|*.*";
+
 /// A file dialog of the main form. Between uses it keeps its last file name, which tools rely on:
 /// one that does not ask for a cancel takes that name again.
 class CommonDialog {
@@ -22,14 +36,15 @@ class CommonDialog {
 
   /// Shows the dialog for opening, in a folder, with its last file name. Whether it was accepted;
   /// after a cancel the file name is what it was.
-  bool open(FrontEnd& front, std::string_view folder, std::string_view title = "Open");
+  bool open(FrontEnd& front, std::string_view folder, std::string_view title = "Open",
+            const DialogWords& words = {});
   /// Shows it for saving, with a proposed name.
   bool save(FrontEnd& front, std::string_view folder, std::string_view proposed,
-            std::string_view title = "Save As");
+            std::string_view title = "Save As", const DialogWords& words = {});
 
  private:
-  bool show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
-            std::string_view folder);
+  bool show(FrontEnd& front, FileDialog::Kind kind, std::string_view title, std::string_view folder,
+            const DialogWords& words);
 
   std::string name_;
   std::string fileName_;

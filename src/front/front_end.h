@@ -40,11 +40,13 @@ enum class Answer { ok = 1, cancel = 2, yes = 6, no = 7 };
 struct FileDialog {
   enum class Kind { open, save };
   Kind kind = Kind::open;
-  std::string name;  ///< of the dialog control
-  std::string title;
-  std::string filter;
-  std::string folder;  ///< the initial folder
-  std::string file;    ///< the proposed name
+  std::string name{};  ///< of the dialog control
+  std::string title{};
+  std::string filter{};
+  std::string folder{};   ///< the initial folder
+  std::string file{};     ///< the proposed name
+  std::string purpose{};  ///< what the file is for, as a window's title says it; may be empty
+  std::string hint{};     ///< what a window adds to that; may be empty
 };
 
 /// The outcome of a fetch over the network. `error` is 0 when the front end does not fetch at all.

@@ -47,6 +47,10 @@ class Session {
   /// The finished result that is on offer just now; empty paths while none is.
   const Result& offered() const { return offered_; }
 
+  /// What the operator should know before he agrees to the question that comes next; empty for
+  /// nothing.
+  const std::string& caution() const { return caution_; }
+
   /// All forms by name, the main form first.
   void addForm(Form& form) { forms_.push_back(&form); }
   const std::vector<Form*>& forms() const { return forms_; }
@@ -90,8 +94,10 @@ class Session {
   void prepare(Form& form);
 
   friend class ResultOffer;
+  friend class Caution;
   std::vector<Form*> forms_;
   Result offered_;
+  std::string caution_;
 };
 
 /// A tool's word, while it lives, that its result is whole and that the operator is asked whether
@@ -108,6 +114,19 @@ class ResultOffer {
   ResultOffer(const ResultOffer&) = delete;
   ResultOffer& operator=(const ResultOffer&) = delete;
   ~ResultOffer() { session_.offered_ = {}; }
+
+ private:
+  Session& session_;
+};
+
+/// A tool's word, while it lives, that the answer yes to its question does harm as likely as not: a
+/// window says so below the question, and a key pressed in haste refuses.
+class Caution {
+ public:
+  Caution(Session& session, std::string_view note) : session_(session) { session.caution_ = note; }
+  Caution(const Caution&) = delete;
+  Caution& operator=(const Caution&) = delete;
+  ~Caution() { session_.caution_.clear(); }
 
  private:
   Session& session_;

@@ -5,7 +5,12 @@
 namespace norvik::lifecycle {
 
 void askForPoser(front::Session& session) {
-  session.opening.CommonDialogFindPoser.open(session.front, session.disk.currentFolder());
+  session.opening.CommonDialogFindPoser.open(
+      session.front, session.disk.currentFolder(), "Open",
+      {"Where is Poser.exe?", "Poser's program|*.exe|All files|*.*",
+       "Norvik looks beside it for the meshes and textures that figures name. Without Poser, "
+       "Cancel "
+       "is fine: the place can be told later, with File, Poser Location."});
 }
 
 void storePoserLocation(front::Session& session) {

@@ -72,8 +72,19 @@ void startToPlay(Workshop& workshop) {
   }
 }
 
-void hideFromBoss(Workshop& workshop) {
+/// The pictures that the boss's ones take the place of, as they were.
+struct Covered {
+  bool zoom = false;
+  bool plan = false;
+  bool view3D = false;
+};
+
+void hideFromBoss(Workshop& workshop, Covered& covered) {
   front::FormOBJ& form = workshop.form;
+  if (!form.ImageBoss.visible()) {
+    covered = {form.PictureZoom.visible(), form.PictureOBJViewer.visible(),
+               form.PictureObjViewer2.visible()};
+  }
   closeMagnifier(workshop.session);
   form.PictureZoom.hide();
   form.PictureOBJViewer.hide();
@@ -82,6 +93,18 @@ void hideFromBoss(Workshop& workshop) {
   form.ImageRDS.show();
   form.LabelBoss.setCaption("Render");
   form.LabelPlay.setCaption("Mesh");
+}
+
+/// A click on the boss's pictures: the work as it was.
+void uncover(Workshop& workshop, const Covered& covered) {
+  front::FormOBJ& form = workshop.form;
+  form.ImageBoss.hide();
+  form.ImageRDS.hide();
+  form.LabelBoss.setCaption("Boss Button");
+  form.LabelPlay.setCaption("PLAY");
+  form.PictureZoom.setVisible(covered.zoom);
+  form.PictureOBJViewer.setVisible(covered.plan);
+  form.PictureObjViewer2.setVisible(covered.view3D);
 }
 
 void play(Workshop& workshop) {
@@ -107,7 +130,11 @@ void wireHand(front::PictureBox& picture) {
 void wirePlay(Workshop& workshop) {
   front::FormOBJ& form = workshop.form;
   workshop.session.opening.MenuPlay.clicked.add([&workshop] { startToPlay(workshop); });
-  form.LabelBoss.clicked.add([&workshop] { hideFromBoss(workshop); });
+  const auto covered = std::make_shared<Covered>();
+  form.LabelBoss.clicked.add([&workshop, covered] { hideFromBoss(workshop, *covered); });
+  for (front::Image* picture : {&form.ImageBoss, &form.ImageRDS}) {
+    picture->clicked.add([&workshop, covered] { uncover(workshop, *covered); });
+  }
   form.LabelPlay.clicked.add([&workshop] { play(workshop); });
   form.LabelPlay.released.add([&workshop](front::Mouse mouse) {
     if (mouse.button == front::MouseButton::right) {

@@ -22,11 +22,6 @@ namespace norvik::desktop {
 /// Answers from a queue and remembers what was asked.
 class ScriptedAsker : public Asker {
  public:
-  struct Box {
-    QString title;
-    QString text;
-    int style;
-  };
   std::vector<Box> boxes;
   std::vector<File> files;
   std::deque<front::Answer> answers;
@@ -35,8 +30,8 @@ class ScriptedAsker : public Asker {
   std::function<bool(QPrinter&)> setUpPrinter;
   std::function<void()> whileAsking;
 
-  front::Answer box(const QString& title, const QString& text, int style) override {
-    boxes.push_back({title, text, style});
+  front::Answer box(const Box& asked) override {
+    boxes.push_back(asked);
     if (whileAsking) whileAsking();
     if (answers.empty()) return front::Answer::ok;
     const front::Answer answer = answers.front();

@@ -72,6 +72,46 @@ TEST_F(FrontEndTest, AFileErrorEndsAHandlerWithABox) {
   EXPECT_EQ(asker.boxes[0].style, front::kCritical);
 }
 
+TEST_F(FrontEndTest, AFileErrorSaysWhichFileAndWhatWasDoneWithIt) {
+  dispatcher.run([&] { disk.remove("C:\\gone.cr2"); });
+  dispatcher.run([] { throw text::FileError(text::ErrorNumber::overflow); });
+  ASSERT_EQ(asker.boxes.size(), 2U);
+  EXPECT_EQ(asker.boxes[0].text, "Run-time error '53': File not found");
+  EXPECT_EQ(asker.boxes[0].note, "While deleting C:\\gone.cr2");
+  EXPECT_EQ(asker.boxes[1].note, "");
+}
+
+TEST_F(FrontEndTest, AQuestionThatMayDoHarmSaysSo) {
+  dispatcher.run([&] {
+    const front::Caution caution(session, "It holds bytes of 0.");
+    frontEnd.messageBox("Repair?", "Sorry!", front::kOkCancel);
+  });
+  dispatcher.run([&] { frontEnd.messageBox("Repair?", "Sorry!", front::kOkCancel); });
+  ASSERT_EQ(asker.boxes.size(), 2U);
+  EXPECT_EQ(asker.boxes[0].note, "It holds bytes of 0.");
+  EXPECT_TRUE(asker.boxes[0].cautious);
+  EXPECT_FALSE(asker.boxes[1].cautious);
+}
+
+TEST_F(FrontEndTest, ADialogHasPosersLibrariesAndTheFoldersUsedLast) {
+  namespace fs = std::filesystem;
+  fs::create_directories(folder.path() + "/Poser/Runtime/Libraries/Hair");
+  fs::create_directories(folder.path() + "/mine");
+  opening.PoserLocation = "C:\\Poser\\";
+  const front::FileDialog dialog{.purpose = "Open a figure"};
+  asker.paths = {QString::fromStdString(folder.path() + "/mine/a.cr2")};
+  frontEnd.fileDialog(dialog);
+  frontEnd.fileDialog(dialog);
+  ASSERT_EQ(asker.files.size(), 2U);
+  EXPECT_EQ(asker.files[0].title, "Open a figure");
+  const QString drive = QString::fromStdString(folder.path());
+  EXPECT_EQ(asker.files[0].places, QStringList{drive + "/Poser/Runtime/Libraries/Hair"});
+  EXPECT_EQ(asker.files[1].places,
+            (QStringList{drive + "/Poser/Runtime/Libraries/Hair", drive + "/mine"}));
+  EXPECT_EQ(asker.files[0].hostPath("c:\\mine\\a.cr2"), drive + "/mine/a.cr2");
+  EXPECT_EQ(asker.files[0].hostPath("a.cr2"), "");
+}
+
 TEST_F(FrontEndTest, TheHourglassIsOnTheCursorOnce) {
   frontEnd.setHourglass(opening, true);
   frontEnd.setHourglass(opening, true);

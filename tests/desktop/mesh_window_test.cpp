@@ -153,6 +153,36 @@ TEST_F(MeshWindowTest, ToolsAreCalledWhatTheirLabelsSay) {
   EXPECT_EQ(find<QToolButton>("LabelBoss").text(), "Render");
 }
 
+TEST_F(MeshWindowTest, ToolsKeepTheirPlacesWhileOneHides) {
+  for (front::Control* control : form.controls()) control->show();
+  workshop.resize(2400, 1000);
+  dispatcher.sync();
+  QTest::qWait(20);
+  const auto placeOf = [&](const char* name) {
+    return find<QWidget>(name).mapTo(&workshop, QPoint(0, 0));
+  };
+  const QPoint boss = placeOf("LabelBoss");
+  const QPoint keysLabel = placeOf("LabelHotKeys");
+  form.LabelMirror.hide();
+  form.PictureNewFile.hide();
+  dispatcher.sync();
+  QTest::qWait(20);
+  EXPECT_EQ(placeOf("LabelBoss"), boss);
+  EXPECT_EQ(placeOf("LabelHotKeys"), keysLabel);
+}
+
+TEST_F(MeshWindowTest, EscapeUncoversWhatTheBossMustNotSee) {
+  int uncovered = 0;
+  form.ImageBoss.clicked.add([&] { ++uncovered; });
+  form.ImageBoss.show();
+  dispatcher.sync();
+  QTest::keyClick(&find<QWidget>("ViewStack"), Qt::Key_Escape);
+  EXPECT_EQ(uncovered, 1);
+  EXPECT_EQ(keys, "");
+  QTest::mouseClick(&find<QWidget>("ImageBoss"), Qt::LeftButton);
+  EXPECT_EQ(uncovered, 2);
+}
+
 TEST_F(MeshWindowTest, TheCloseBoxUnloadsTheForm) {
   workshop.close();
   QTRY_VERIFY_WITH_TIMEOUT(closed, 1000);

@@ -126,6 +126,7 @@ void takeHistory(desktop::Program& program, desktop::Operator& hand, const Photo
                  const QString& figure) {
   hand.willPress(u"Yes"_s);
   hand.willChoose(figure);
+  hand.willPress(u"Yes"_s);  // the dialog asks as well
   hand.click(u"PictureCopyToDest"_s);
   program.mainWindow().findChild<QAction*>(u"History"_s)->trigger();
   auto* window = program.mainWindow().findChild<QWidget*>(u"HistoryWindow"_s);
@@ -144,8 +145,7 @@ void takeChannelPictures(desktop::Program& program, desktop::Operator& hand,
                          const Photographer& camera) {
   hand.clickItem(u"ListActors"_s, u"head:1"_s);
   hand.click(u"PictureViewChannels"_s);
-  hand.find(u"ListChannels"_s).setFocus();
-  hand.shortcut(Qt::Key_F, Qt::ControlModifier);
+  program.mainWindow().findChild<QAction*>(u"FilterList"_s)->trigger();
   QWidget& filter = hand.find(u"Filter.ListChannels"_s);
   QTest::keyClicks(&filter, u"head"_s);
   camera.take(u"channels-filter"_s);
@@ -235,8 +235,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
   hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
   desktop::takePosePictures(
-      hand, drive,
-      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+      hand, drive, [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }

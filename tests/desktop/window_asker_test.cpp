@@ -2,14 +2,21 @@
 
 #include "desktop/window_asker.h"
 
+#include "desktop/bench.h"
+
 #include <QApplication>
 #include <QColorDialog>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QTimer>
+#include <QtTest>
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
 
 namespace norvik::desktop {
@@ -57,8 +64,10 @@ TEST_P(BoxTest, HasTheIconAndTheButtonsOfItsStyle) {
     box.reject();
   });
   WindowAsker asker;
-  EXPECT_EQ(asker.box(QStringLiteral("Alert!"), QStringLiteral("a < b & c"), wanted.style),
-            wanted.onEscape);
+  EXPECT_EQ(
+      asker.box(
+          {QStringLiteral("Alert!"), QStringLiteral("a < b & c"), wanted.style, {}, false, {}}),
+      wanted.onEscape);
   EXPECT_TRUE(seen);
 }
 
@@ -78,7 +87,91 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(WindowAskerTest, AClickOnAButtonIsTheAnswer) {
   whenUp<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
   WindowAsker asker;
-  EXPECT_EQ(asker.box(QString(), QString(), front::kYesNo), front::Answer::yes);
+  EXPECT_EQ(asker.box({.style = front::kYesNo}), front::Answer::yes);
+}
+
+TEST(WindowAskerTest, AYesOrNoIsNotAnsweredByEscapeOrTheCloseBox) {
+  whenUp<QMessageBox>([](QMessageBox& box) {
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_TRUE(box.isVisible());
+    box.close();
+    EXPECT_TRUE(box.isVisible());
+    box.button(QMessageBox::Yes)->click();
+  });
+  WindowAsker asker;
+  EXPECT_EQ(asker.box({.style = front::kYesNo}), front::Answer::yes);
+}
+
+TEST(WindowAskerTest, ABoxWithCancelIsLeftByEscape) {
+  whenUp<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+  WindowAsker asker;
+  EXPECT_EQ(asker.box({.style = front::kYesNoCancel}), front::Answer::cancel);
+}
+
+TEST(WindowAskerTest, ACautiousBoxIsRefusedByReturn) {
+  whenUp<QMessageBox>([](QMessageBox& box) {
+    EXPECT_EQ(box.informativeText(), "<b>mind");
+    EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Cancel));
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  WindowAsker asker;
+  EXPECT_EQ(
+      asker.box({.style = front::kOkCancel, .note = QStringLiteral("<b>mind"), .cautious = true}),
+      front::Answer::cancel);
+}
+
+class ChooserTest : public testing::Test {
+ protected:
+  ChooserTest() {
+    std::ofstream(folder_.path() + "/a.cr2") << "x";
+    std::filesystem::create_directory(folder_.path() + "/below");
+    std::ofstream(folder_.path() + "/below/b.cr2") << "x";
+    file_.folder = host("");
+    file_.title = QStringLiteral("Open a figure");
+    file_.hint = QStringLiteral("Cancel is fine");
+    file_.hostPath = [this](const QString& text) {
+      return text.startsWith(QStringLiteral("C:\\"))
+                 ? host("/") + text.mid(3).replace(QLatin1Char('\\'), QLatin1Char('/'))
+                 : QString();
+    };
+  }
+  QString host(const char* below) const { return QString::fromStdString(folder_.path() + below); }
+
+  /// What the dialog gives for a text that is typed and entered.
+  std::optional<QString> typed(const QString& text) {
+    whenUp<QFileDialog>([&](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.windowTitle(), "Open a figure");
+      EXPECT_EQ(dialog.findChild<QLabel*>("Hint")->text(), "Cancel is fine");
+      QTest::qWait(300);
+      auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+      name->setFocus();
+      QTest::keyClicks(name, text);
+      QTest::keyClick(name, Qt::Key_Return);
+      QTest::qWait(50);
+      if (dialog.isVisible()) dialog.reject();
+    });
+    WindowAsker asker;
+    return asker.file(file_);
+  }
+
+  ScratchFolder folder_;
+  Asker::File file_;
+};
+
+TEST_F(ChooserTest, TakesAFullPathOfAFileOnView) {
+  EXPECT_EQ(typed(host("/a.cr2")), host("/a.cr2"));
+}
+
+TEST_F(ChooserTest, TakesAPathOfADrive) {
+  EXPECT_EQ(typed(QStringLiteral("C:\\below\\b.cr2")), host("/below/b.cr2"));
+}
+
+TEST_F(ChooserTest, TakesAName) {
+  EXPECT_EQ(typed(QStringLiteral("a.cr2")), host("/a.cr2"));
+}
+
+TEST_F(ChooserTest, EntersAFolder) {
+  EXPECT_EQ(typed(QStringLiteral("C:\\below")), std::nullopt);
 }
 
 TEST(WindowAskerTest, AQuestionWaitsWhileTheChangesAreShown) {
@@ -95,7 +188,7 @@ TEST(WindowAskerTest, AQuestionWaitsWhileTheChangesAreShown) {
   });
   WindowAsker asker;
   const ComparedFiles files{"/nowhere/a", "/nowhere/b", {}, {}};
-  EXPECT_EQ(asker.boxWithChanges(QString(), QString(), front::kYesNo, files), front::Answer::yes);
+  EXPECT_EQ(asker.box({.style = front::kYesNo, .changes = files}), front::Answer::yes);
   EXPECT_TRUE(seen);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/history/history_tools.h"
 
+#include "desktop/theme.h"
 #include "desktop/words.h"
 
 #include <QAction>
@@ -56,7 +57,8 @@ void HistoryTools::tell(const text::HistoryEntry& entry) {
   const QString what = shown(text::lossName(entry.what));
   news_->setText(entry.number == 0
                      ? QStringLiteral("%1 %2; no earlier version was kept").arg(name, what)
-                     : QStringLiteral("%1 %2 &nbsp;<a href=\"undo\">Undo</a>").arg(name, what));
+                     : QStringLiteral("%1 %2 &nbsp;<a href=\"undo\" style=\"color: %3\">Undo</a>")
+                           .arg(name, what, accentOf(news_->palette()).name()));
 }
 
 void HistoryTools::showWindow(QMainWindow& window) {

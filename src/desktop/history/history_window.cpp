@@ -135,9 +135,14 @@ void HistoryWindow::applyFilter() {
     if (fits) ++seen;
   }
   const auto all = list_->topLevelItemCount();
-  state_->setText(restorer_.history() == nullptr ? QStringLiteral("No earlier versions are kept.")
-                  : wanted.isEmpty()             ? QStringLiteral("%1 earlier versions").arg(all)
-                                                 : QStringLiteral("%1 of %2").arg(seen).arg(all));
+  if (restorer_.history() == nullptr || all == 0) {
+    state_->setText(QStringLiteral("No earlier version is kept."));
+  } else if (!wanted.isEmpty()) {
+    state_->setText(QStringLiteral("%1 of %2").arg(seen).arg(all));
+  } else {
+    state_->setText(all == 1 ? QStringLiteral("One earlier version")
+                             : QStringLiteral("%1 earlier versions").arg(all));
+  }
   updateButtons();
 }
 

@@ -98,6 +98,7 @@ QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& par
 
   auto& name = maker.pathLabel(opening.LabelFileName, *pane);
   makeFileHeading(name, QStringLiteral("Destination file"));
+  column->addWidget(makePaneTitle("Destination", *pane));
   column->addWidget(&name);
 
   auto* lists = new QSplitter(Qt::Horizontal, pane);

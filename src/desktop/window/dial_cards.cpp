@@ -3,10 +3,10 @@
 #include "desktop/bind/choice_bindings.h"
 #include "desktop/bind/list_binding.h"
 #include "desktop/bind/text_binding.h"
+#include "desktop/window/dial_names.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/hint.h"
 #include "desktop/window/overlay.h"
-#include "desktop/words.h"
 #include "figure/actor_entry.h"
 
 #include <QAction>
@@ -56,6 +56,8 @@ void makeReorderCard(Maker& maker, front::Opening& opening, QWidget& over) {
   auto* grid = new QGridLayout(card);
   auto& left = maker.list(opening.ListChannelsReorderByPart, *card);
   auto& right = maker.list(opening.ListChannelsReorderNewOrder, *card);
+  // An actor whose name goes on behind the part's has its channels here, too.
+  for (ListView* view : {&left, &right}) showDialNames(*view, true);
   left.setAccessibleName(QStringLiteral("Channels of the part"));
   right.setAccessibleName(QStringLiteral("Channels in their new order"));
   grid->addWidget(makeHint(QStringLiteral("Click the channels in the order that they are to have; "
@@ -87,6 +89,7 @@ void makeSpeedCard(Maker& maker, front::Opening& opening, QWidget& over) {
   card->setObjectName(QStringLiteral("SpeedCard"));
   auto* column = new QVBoxLayout(card);
   auto& list = maker.list(opening.ListChannelsReorder, *card);
+  showDialNames(list, true);
   list.setAccessibleName(QStringLiteral("All dials"));
   column->addWidget(headingOf(QStringLiteral("Tracking &speed"), *card, list));
   column->addWidget(makeHint(
@@ -107,23 +110,17 @@ void makeHiddenDialsCard(Maker& maker, front::Opening& opening, QWidget& over) {
   frame.setFlat(true);
   outside->addWidget(&frame);
   auto* column = new QVBoxLayout(&frame);
-  column->setContentsMargins(0, 0, 0, 0);
+  column->setContentsMargins(0, 6, 0, 0);
   auto& list = maker.list(opening.ListHideDialsChannels, frame);
   list.setAccessibleName(QStringLiteral("Dials that are hidden"));
   // Each click turns one dial over.
   list.setSelectionMode(QAbstractItemView::MultiSelection);
-  auto* note = makeHint({}, frame);
-  maker.watch({&opening.FrameDialHiding}, [note, &frame, &opening] {
-    frame.setTitle({});
-    note->setText(shown(opening.FrameDialHiding.caption()));
-  });
   column->addWidget(headingOf(QStringLiteral("&Hidden dials"), frame, list));
   column->addWidget(makeHint(QStringLiteral("The dials that are selected will be hidden, all "
                                             "others will show. Done asks where to save the figure; "
                                             "Escape changes nothing."),
                              frame));
   column->addWidget(&list, 1);
-  column->addWidget(note);
   QWidget* done = maker.make(opening.CommandDialHideDone, frame);
   column->addWidget(done, 0, Qt::AlignRight);
   maker.showWhileAny(*card, {&opening.FrameDialHiding});

@@ -24,6 +24,8 @@ class FormWindow : public QDialog {
   /// What is not a control's: the title.
   virtual void sync();
   virtual void setBusy(bool) {}
+  /// A handler has come to its end.
+  virtual void rest() {}
   virtual void setProgress(std::uint64_t, std::uint64_t) {}
 
  protected:

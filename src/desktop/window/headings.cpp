@@ -11,6 +11,14 @@ void makeHeading(QLabel& label) {
   label.setFont(font);
 }
 
+QLabel* makePaneTitle(const char* title, QWidget& parent) {
+  auto* label = new QLabel(QString::fromLatin1(title), &parent);
+  label->setObjectName(QString::fromLatin1(title) + QStringLiteral("Title"));
+  label->setForegroundRole(QPalette::PlaceholderText);
+  label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  return label;
+}
+
 void makeFileHeading(QLabel& label, const QString& accessibleName) {
   QFont font = label.font();
   font.setWeight(QFont::DemiBold);

@@ -23,6 +23,7 @@ class ListFilter : public QWidget {
   /// Shows all items again and goes back to the list.
   void dismiss();
 
+  const front::ListBox& list() const { return list_; }
   const ListView& view() const { return view_; }
 
  protected:
@@ -37,8 +38,8 @@ class ListFilter : public QWidget {
   QLabel* count_;
 };
 
-/// Opens the filter in whose part of the window the keys are, else the last one whose list is on
-/// view.
-void openFilter(QWidget& window);
+/// Opens the filter in whose part of the window the keys are, else that of a list; none whose list
+/// is not on view.
+void openFilter(QWidget& window, const front::ListBox& otherwise);
 
 }  // namespace norvik::desktop

@@ -1,6 +1,8 @@
 #include "desktop/window/main_window.h"
 
 #include "desktop/bind/drag.h"
+#include "desktop/bind/list_view.h"
+#include "desktop/motion.h"
 #include "desktop/window/dial_cards.h"
 #include "desktop/window/dial_row.h"
 #include "desktop/window/list_filter.h"
@@ -29,6 +31,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace norvik::desktop {
 
 namespace {
@@ -52,6 +56,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
   makeCentre();
   bindTheRest();
+  listenToMenus();
   resize(1080, 760);
   sync();
 }
@@ -70,12 +75,54 @@ void MainWindow::makeMenus() {
   menus_->action(opening_.menuScreenRes)->setShortcut(QKeySequence(Qt::Key_F11));
   menus_->action(opening_.MenuHelp)->setShortcut(QKeySequence(Qt::Key_F1));
   const Theme present = themeNamed(session_.settings.get(kWindowSection, kThemeKey, "system"));
-  QMenu* view = addViewMenu(*menuBar(), present, [this](Theme theme) { chooseTheme(theme); });
+  const bool animation = session_.settings.get(kWindowSection, kClosingAnimationKey, "on") != "off";
+  QMenu* view = addViewMenu(
+      *menuBar(), {.theme = present,
+                   .closingAnimation = animation,
+                   .chooseTheme = [this](Theme theme) { chooseTheme(theme); },
+                   .chooseClosingAnimation = [this](bool on) { chooseClosingAnimation(on); }});
   view->addSeparator();
   QAction* filter = view->addAction(QStringLiteral("&Filter the List"));
   filter->setObjectName(QStringLiteral("FilterList"));
   filter->setShortcut(QKeySequence::Find);
-  connect(filter, &QAction::triggered, this, [this] { openFilter(*this); });
+  connect(filter, &QAction::triggered, this, [this] { openFilter(*this, opening_.ListChannels); });
+}
+
+/// What the window itself does about an entry, once the tools have done theirs.
+void MainWindow::listenToMenus() {
+  for (front::Control* opener : {static_cast<front::Control*>(&opening_.MenuFileOpen),
+                                 static_cast<front::Control*>(&opening_.ListMRU),
+                                 static_cast<front::Control*>(&opening_.LabelOpenSource)}) {
+    opener->clicked.add([this] { opens_ = true; });
+  }
+  for (front::MenuEntry* save : {&opening_.MenuFileSave, &opening_.MenuFileSaveAs}) {
+    save->clicked.add([this] { tellOfUntakenPaths(); });
+  }
+  opening_.menuScreenRes.clicked.add([this] {
+    if (isFullScreen()) opening_.setState(front::WindowState::normal);
+  });
+}
+
+void MainWindow::tellOfUntakenPaths() {
+  QStringList names;
+  for (const PendingPath* path : paths_) {
+    if (path->pending()) names << path->name();
+  }
+  if (names.isEmpty()) return;
+  status_->say(QStringLiteral("Not saved, for it was not taken: %1. Enter in the box takes it.")
+                   .arg(names.join(QStringLiteral(", "))));
+}
+
+void MainWindow::scrollToTops() {
+  for (ListView* list : findChildren<ListView*>()) list->scrollToTop();
+}
+
+void MainWindow::rest() {
+  status_->rest();
+  const std::uint64_t listed =
+      opening_.ListActors.itemChanges() + opening_.ListChannels.itemChanges();
+  if (std::exchange(opens_, false) && listed != listed_) scrollToTops();
+  listed_ = listed;
 }
 
 void MainWindow::makeCentre() {
@@ -103,7 +150,7 @@ void MainWindow::makeCentre() {
   panes->setSizes({560, 480});
   workColumn->addWidget(panes, 1);
   workColumn->addWidget(makeMeshPage(maker_, opening_, *work), 1);
-  workColumn->addWidget(makePathBlock(maker_, opening_, *work));
+  workColumn->addWidget(makePathBlock(maker_, opening_, *work, paths_));
   maker_.showWhileAny(
       *panes, {&opening_.LabelFileName, &opening_.ListActors, &opening_.ListMaterials,
                &opening_.ListChannels, &opening_.ListAltGeomActors, &opening_.ListboxListCR2Files,
@@ -151,7 +198,8 @@ void MainWindow::sync() {
   if (drawnState_ == opening_.state()) return;
   drawnState_ = opening_.state();
   if (drawnState_ == front::WindowState::maximised) {
-    showMaximized();
+    // The whole screen, without a title bar.
+    showFullScreen();
   } else if (isVisible()) {
     showNormal();
   }
@@ -164,7 +212,19 @@ void MainWindow::chooseTheme(Theme theme) {
   text::ignoringErrors([&] { session_.settings.set(kWindowSection, kThemeKey, themeName(theme)); });
 }
 
+void MainWindow::chooseClosingAnimation(bool on) {
+  text::ignoringErrors(
+      [&] { session_.settings.set(kWindowSection, kClosingAnimationKey, on ? "on" : "off"); });
+}
+
+bool MainWindow::showsClosingAnimation() const {
+  return session_.settings.get(kWindowSection, kClosingAnimationKey, "on") != "off" &&
+         !systemReducesMotion();
+}
+
 bool MainWindow::drawTile(int left, int top) {
+  if (!animated_) animated_ = showsClosingAnimation();
+  if (!*animated_) return false;
   if (curtain_ == nullptr) {
     const QSize drawn(static_cast<int>(opening_.box().width) / kTwipsPerPixel,
                       static_cast<int>(opening_.box().height) / kTwipsPerPixel);
@@ -197,7 +257,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::keyPressEvent(QKeyEvent* event) {
   const std::string name = keyName(*event);
   if (!name.empty() && opening_.key.hasHandlers()) maker_.dispatcher().raise(opening_.key, name);
-  if (name == "Escape" && opening_.ListMRU.visible()) opening_.ListMRU.hide();
+  if (name == "Escape" && opening_.ListMRU.visible()) {
+    opening_.ListMRU.hide();
+  } else if (name == "Escape" && isFullScreen()) {
+    opening_.setState(front::WindowState::normal);
+  }
   if (name == "Escape") putDialToolsAway(maker_.dispatcher(), opening_);
   maker_.dispatcher().sync();
   QMainWindow::keyPressEvent(event);

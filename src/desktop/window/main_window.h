@@ -6,11 +6,15 @@
 #include "desktop/maker.h"
 #include "desktop/theme.h"
 #include "desktop/window/curtain.h"
+#include "desktop/window/pending_path.h"
 #include "desktop/window/status_line.h"
 
 #include <QMainWindow>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
+#include <vector>
 
 class QSplitter;
 
@@ -32,6 +36,8 @@ class MainWindow : public QMainWindow {
 
   /// What is not a control's: the title, the state of the window.
   void sync();
+  /// A handler has come to its end.
+  void rest();
   void restorePlace();
   void keepPlace();
 
@@ -47,6 +53,11 @@ class MainWindow : public QMainWindow {
   void bindTheRest();
   void openDropped(const std::string& path, bool asSource);
   void chooseTheme(Theme theme);
+  void chooseClosingAnimation(bool on);
+  bool showsClosingAnimation() const;
+  void listenToMenus();
+  void tellOfUntakenPaths();
+  void scrollToTops();
 
   Maker& maker_;
   front::Session& session_;
@@ -55,9 +66,13 @@ class MainWindow : public QMainWindow {
   QPalette system_;
   std::unique_ptr<MenuTree> menus_;
   std::unique_ptr<StatusLine> status_;
+  std::vector<PendingPath*> paths_;
   QWidget* sourcePane_ = nullptr;
   Curtain* curtain_ = nullptr;
   front::WindowState drawnState_ = front::WindowState::normal;
+  bool opens_ = false;            ///< the handler that runs may open a file
+  std::uint64_t listed_ = 0;      ///< changes of the lists until the last handler's end
+  std::optional<bool> animated_;  ///< whether the closing animation is shown, once that is known
 };
 
 }  // namespace norvik::desktop

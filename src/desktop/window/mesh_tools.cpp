@@ -1,11 +1,11 @@
 #include "desktop/window/mesh_panes.h"
 #include "desktop/words.h"
 
-#include <QAction>
+#include <QHBoxLayout>
 #include <QToolBar>
 #include <QToolButton>
 
-#include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace norvik::desktop {
@@ -14,16 +14,19 @@ namespace {
 
 using Group = std::vector<front::Control*>;
 
-bool anySeen(const Group& controls) {
-  return std::any_of(controls.begin(), controls.end(),
-                     [](const auto* control) { return control->visible(); });
-}
-
+/// A tool with a place of its own: while it hides, no other one moves under the mouse.
 void addTool(Maker& maker, front::Control& control, QToolBar& bar) {
-  constexpr int kIcon = 26;
-  auto& button = maker.picture(control, bar, kIcon);
-  QAction* action = bar.addWidget(&button);
-  maker.watch({&control}, [action, &control] { action->setVisible(control.visible()); });
+  constexpr int kIcon = 22;
+  auto* place = new QWidget(&bar);
+  place->setObjectName(QStringLiteral("PlaceOf") + QString::fromStdString(control.name()));
+  auto* row = new QHBoxLayout(place);
+  row->setContentsMargins(0, 0, 0, 0);
+  auto& button = maker.picture(control, *place, kIcon);
+  QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  policy.setRetainSizeWhenHidden(true);
+  button.setSizePolicy(policy);
+  row->addWidget(&button);
+  bar.addWidget(place);
   // Some labels are called differently while they mean something else.
   if (auto* label = dynamic_cast<front::Label*>(&control); label != nullptr) {
     maker.watch({label}, [&button, label] { button.setText(shown(label->caption())); });
@@ -44,19 +47,10 @@ QToolBar* makeMeshTools(Maker& maker, front::FormOBJ& form, QWidget& parent) {
       {&form.LabelMakeUV, &form.LabelUVMap, &form.LabelSecMap, &form.LabelSaveMap,
        &form.LabelViewCR2TexMap, &form.LabelApplyMap, &form.PictureMagGlass},
       {&form.LabelHotKeys, &form.LabelPlay, &form.LabelBoss}};
-  Group before;
+  bool first = true;
   for (const Group& group : groups) {
-    if (!before.empty()) {
-      // A line stands between two groups only while both are there.
-      QAction* line = bar->addSeparator();
-      const auto place = [line, before, group] {
-        line->setVisible(anySeen(before) && anySeen(group));
-      };
-      for (front::Control* control : before) maker.watch({control}, place);
-      for (front::Control* control : group) maker.watch({control}, place);
-    }
+    if (!std::exchange(first, false)) bar->addSeparator();
     for (front::Control* control : group) addTool(maker, *control, *bar);
-    before.insert(before.end(), group.begin(), group.end());
   }
   return bar;
 }

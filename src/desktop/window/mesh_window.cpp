@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -31,7 +33,7 @@ constexpr int kPermille = 1000;
 
 MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& form,
                        DesktopFrontEnd& frontEnd, std::function<void()> unload, QWidget* parent)
-    : FormWindow(maker, form, std::move(unload), parent) {
+    : FormWindow(maker, form, std::move(unload), parent), mesh_(form) {
   setWindowFlags(Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -43,7 +45,15 @@ MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& fo
   middle->setSpacing(kPaneMargin);
   views_ = new ViewStack(maker, form, frontEnd, this);
   middle->addWidget(views_, 1);
-  middle->addWidget(makeSide(form));
+  auto* side = new QScrollArea(this);
+  side->setObjectName(QStringLiteral("MeshSideRoom"));
+  side->setFrameStyle(QFrame::NoFrame);
+  side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  side->setWidgetResizable(true);
+  side->setFocusPolicy(Qt::NoFocus);
+  side->setWidget(makeSide(form));
+  side->setFixedWidth(kSideWidth + side->verticalScrollBar()->sizeHint().width());
+  middle->addWidget(side);
   column->addLayout(middle, 1);
   column->addWidget(makeStatus(session, form));
   keepTheKeys();
@@ -110,6 +120,10 @@ void MeshWindow::setBusy(bool busy) {
   progress_->setVisible(false);
 }
 
+void MeshWindow::rest() {
+  progress_->hide();
+}
+
 void MeshWindow::setProgress(std::uint64_t position, std::uint64_t size) {
   constexpr std::uint64_t kLarge = std::uint64_t{1} << 20U;
   if (size < kLarge || state_->text().isEmpty()) return;
@@ -132,9 +146,21 @@ void MeshWindow::keepTheKeys() {
 
 bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return FormWindow::eventFilter(watched, event);
+  if (uncover(*static_cast<QKeyEvent*>(event))) return true;
   const std::string key = keyName(*static_cast<QKeyEvent*>(event));
   const bool ofTheView = key == "Space" || key.size() == 1;
   return ofTheView ? deliverKey(key) : FormWindow::eventFilter(watched, event);
+}
+
+void MeshWindow::keyPressEvent(QKeyEvent* event) {
+  if (!uncover(*event)) FormWindow::keyPressEvent(event);
+}
+
+/// The work comes back from under the boss's pictures.
+bool MeshWindow::uncover(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Escape || !mesh_.ImageBoss.visible()) return false;
+  maker().dispatcher().raise(mesh_.ImageBoss.clicked);
+  return true;
 }
 
 void MeshWindow::showEvent(QShowEvent* event) {

@@ -20,18 +20,22 @@ class MeshWindow : public FormWindow {
              std::function<void()> unload, QWidget* parent);
 
   void setBusy(bool busy) override;
+  void rest() override;
   void setProgress(std::uint64_t position, std::uint64_t size) override;
 
  protected:
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  bool uncover(const QKeyEvent& event);
   QWidget* makeSide(front::FormOBJ& form);
   QWidget* makeStatus(front::Session& session, front::FormOBJ& form);
   void bindTheRest(front::FormOBJ& form, QWidget& side);
   void keepTheKeys();
 
+  front::FormOBJ& mesh_;
   ViewStack* views_ = nullptr;
   QLabel* state_ = nullptr;
   QProgressBar* progress_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QGraphicsDropShadowEffect>
+#include <QKeyEvent>
 
 namespace norvik::desktop {
 
@@ -20,6 +21,11 @@ Overlay::Overlay(QWidget& parent, Placer placer) : QFrame(&parent), placer_(std:
 
 void Overlay::place() {
   setGeometry(placer_(parentWidget()->rect(), sizeHint()));
+}
+
+void Overlay::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && onEscape_) return onEscape_();
+  QFrame::keyPressEvent(event);
 }
 
 bool Overlay::event(QEvent* event) {

@@ -4,6 +4,7 @@
 #include <QFrame>
 
 #include <functional>
+#include <utility>
 
 namespace norvik::desktop {
 
@@ -16,14 +17,18 @@ class Overlay : public QFrame {
 
   Overlay(QWidget& parent, Placer placer);
   void place();
+  /// What the escape key does while the keys are with the card.
+  void setOnEscape(std::function<void()> act) { onEscape_ = std::move(act); }
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   bool event(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   Placer placer_;
+  std::function<void()> onEscape_;
 };
 
 /// In the middle, of a size of its own or smaller.

@@ -85,7 +85,20 @@ void makeBracketCard(Maker& maker, front::Opening& opening, QWidget& over) {
     auto& button = maker.picture(*picture, *card, kPicture);
     button.setMinimumWidth(240);
     column->addWidget(&button, 0, Qt::AlignHCenter);
+    // The result waits for the operator, and both menus with it: the keys put it away.
+    maker.watch({picture}, [picture, &button] {
+      if (picture->visible() && !button.hasFocus()) button.setFocus(Qt::OtherFocusReason);
+    });
   }
+  card->setOnEscape([&maker, &opening] {
+    for (front::PictureButton* picture :
+         {&opening.PictureBrktsOK, &opening.PictureBrktLeft, &opening.PictureBrktRight}) {
+      if (!picture->visible()) continue;
+      maker.dispatcher().raise(picture->pressed, front::Mouse{});
+      maker.dispatcher().raise(picture->released, front::Mouse{});
+      maker.dispatcher().raise(picture->clicked);
+    }
+  });
   auto& pin = maker.picture(opening.PicturePushPin, *card, kPin);
   pin.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   column->addWidget(&pin, 0, Qt::AlignHCenter);

@@ -4,9 +4,13 @@
 #include "desktop/maker.h"
 #include "front/opening.h"
 
+#include <vector>
+
 class QWidget;
 
 namespace norvik::desktop {
+
+class PendingPath;
 
 /// Left: the figure that is worked on, its parts and its materials.
 QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& parent);
@@ -14,8 +18,9 @@ QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& par
 /// Right: where morphs come from, and the channels.
 QWidget* makeSourcePane(Maker& maker, front::Opening& opening, QWidget& parent);
 
-/// Below: the references of the figure.
-QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent);
+/// Below: the references of the figure. The boxes that are typed into are added to `paths`.
+QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
+                       std::vector<PendingPath*>& paths);
 
 /// What the panes give way to when a mesh is open.
 QWidget* makeMeshPage(Maker& maker, front::Opening& opening, QWidget& parent);

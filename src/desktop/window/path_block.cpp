@@ -1,5 +1,6 @@
 #include "desktop/window/headings.h"
 #include "desktop/window/panes.h"
+#include "desktop/window/pending_path.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -9,7 +10,21 @@
 
 namespace norvik::desktop {
 
-QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent) {
+namespace {
+
+PendingPath* watchTyping(Maker& maker, front::TextBox& box, front::Label& label, QLineEdit& edit,
+                         QGridLayout& grid, int line) {
+  auto* hint = new QLabel(QStringLiteral("Enter takes it"), edit.parentWidget());
+  hint->setObjectName(QStringLiteral("HintOf") + QString::fromStdString(box.name()));
+  hint->setForegroundRole(QPalette::PlaceholderText);
+  grid.addWidget(hint, line, 2);
+  return new PendingPath(maker, box, label, edit, *hint);
+}
+
+}  // namespace
+
+QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
+                       std::vector<PendingPath*>& paths) {
   auto* block = new QWidget(&parent);
   block->setObjectName(QStringLiteral("PathBlock"));
   auto* outside = new QVBoxLayout(block);
@@ -39,7 +54,9 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent) {
     auto& label = maker.label(row.label, *frame);
     QWidget* value = nullptr;
     if (row.box != nullptr) {
-      value = &maker.line(*row.box, *frame);
+      auto& edit = maker.line(*row.box, *frame);
+      paths.push_back(watchTyping(maker, *row.box, row.label, edit, *grid, line));
+      value = &edit;
     } else {
       constexpr int kRows = 2;
       auto& props = maker.list(opening.ListPropObj, *frame);

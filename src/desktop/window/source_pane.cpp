@@ -59,6 +59,7 @@ QWidget* makeSourcePane(Maker& maker, front::Opening& opening, QWidget& parent) 
   column->setContentsMargins(kPaneMargin, kPaneMargin, kPaneMargin, kPaneMargin);
   maker.shape(opening.ShapeChannels, *frame);
 
+  column->addWidget(makePaneTitle("Source", *frame));
   auto* head = new QHBoxLayout;
   auto& name = maker.pathLabel(opening.LabelChannelFileName, *frame);
   makeFileHeading(name, QStringLiteral("Source file"));

@@ -1,5 +1,7 @@
 #include "desktop/window/status_line.h"
 
+#include "text/number_text.h"
+
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
@@ -25,6 +27,11 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
   size.setAccessibleName(QStringLiteral("File size"));
   size.setContentsMargins(0, 0, 6, 0);
   bar.addPermanentWidget(&size);
+  maker.watch({&opening.LabelFileSize}, [&size, &opening] {
+    constexpr double kMebi = 1024 * 1024;
+    const double bytes = text::value(opening.LabelFileSize.caption());
+    size.setToolTip(QString::number(bytes / kMebi, 'f', 2) + QStringLiteral(" MiB"));
+  });
   // Adding a widget to the bar shows it, whatever the control says.
   size.setVisible(opening.LabelFileSize.visible());
 }
@@ -32,6 +39,14 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
 void StatusLine::setBusy(bool busy) {
   state_->setText(busy ? QStringLiteral("Working ...") : QString());
   if (!busy) progress_->hide();
+}
+
+void StatusLine::say(const QString& text) {
+  state_->setText(text);
+}
+
+void StatusLine::rest() {
+  progress_->hide();
 }
 
 void StatusLine::setProgress(std::uint64_t position, std::uint64_t size) {

@@ -18,6 +18,10 @@ class StatusLine {
   StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar);
 
   void setBusy(bool busy);
+  /// Says something until the next work begins or ends.
+  void say(const QString& text);
+  /// No pass is under way any more.
+  void rest();
   /// How far a long pass has read its file; files that are read at once show nothing.
   void setProgress(std::uint64_t position, std::uint64_t size);
 

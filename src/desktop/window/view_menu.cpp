@@ -6,7 +6,7 @@
 
 namespace norvik::desktop {
 
-QMenu* addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose) {
+QMenu* addViewMenu(QMenuBar& bar, const ViewChoices& choices) {
   struct Entry {
     Theme theme;
     const char* caption;
@@ -18,14 +18,20 @@ QMenu* addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choo
                              Entry{Theme::light, "&Light"}, Entry{Theme::dark, "&Dark"}}) {
     QAction* action = menu->addAction(QString::fromLatin1(entry.caption));
     action->setCheckable(true);
-    action->setChecked(entry.theme == present);
+    action->setChecked(entry.theme == choices.theme);
     const auto name = themeName(entry.theme);
     action->setObjectName(QStringLiteral("Theme.") +
                           QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size())));
     group->addAction(action);
     QObject::connect(action, &QAction::triggered, menu,
-                     [choose, theme = entry.theme] { choose(theme); });
+                     [choose = choices.chooseTheme, theme = entry.theme] { choose(theme); });
   }
+  menu->addSeparator();
+  QAction* animation = menu->addAction(QStringLiteral("Closing &Animation"));
+  animation->setObjectName(QStringLiteral("ClosingAnimation"));
+  animation->setCheckable(true);
+  animation->setChecked(choices.closingAnimation);
+  QObject::connect(animation, &QAction::toggled, menu, choices.chooseClosingAnimation);
   return menu;
 }
 

@@ -10,8 +10,15 @@ class QMenuBar;
 
 namespace norvik::desktop {
 
+struct ViewChoices {
+  Theme theme = Theme::system;
+  bool closingAnimation = true;
+  std::function<void(Theme)> chooseTheme;
+  std::function<void(bool)> chooseClosingAnimation;
+};
+
 /// Adds the menu View behind those of the program: it changes how the window looks and nothing
 /// else.
-QMenu* addViewMenu(QMenuBar& bar, Theme present, std::function<void(Theme)> choose);
+QMenu* addViewMenu(QMenuBar& bar, const ViewChoices& choices);
 
 }  // namespace norvik::desktop

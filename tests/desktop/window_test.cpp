@@ -1,0 +1,160 @@
+// The main window at work on the sample.
+
+#include "desktop/bind/list_view.h"
+#include "desktop/program_bench.h"
+#include "desktop/window/place.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QScreen>
+#include <QScrollBar>
+#include <QToolButton>
+
+#include <set>
+
+namespace norvik::desktop {
+
+namespace {
+
+class WindowTest : public ProgramBench {
+ protected:
+  WindowTest() { start(kTilda + "tilda.cr2"); }
+
+  void choose(front::MenuEntry& entry) { dispatcher().raise(entry.clicked); }
+  void open(const std::string& file) {
+    program_->frontEnd().withChosen(file, [&] { choose(opening().MenuFileOpen); });
+  }
+};
+
+TEST_F(WindowTest, APathThatWasTypedSaysThatEnterTakesIt) {
+  auto& box = find<QLineEdit>("TextMainTex");
+  auto& hint = find<QLabel>("HintOfTextMainTex");
+  EXPECT_FALSE(hint.isVisible());
+  box.setFocus();
+  QTest::keyClicks(&box, "x");
+  EXPECT_TRUE(hint.isVisible());
+  EXPECT_EQ(hint.text(), "Enter takes it");
+  QTest::keyClick(&box, Qt::Key_Backspace);
+  EXPECT_FALSE(hint.isVisible());
+  QTest::keyClicks(&box, "y");
+  QTest::keyClick(&box, Qt::Key_Return);
+  EXPECT_FALSE(hint.isVisible());
+  EXPECT_TRUE(opening().PathsEdited);
+}
+
+TEST_F(WindowTest, ASaveSaysWhatItLeftOut) {
+  auto& box = find<QLineEdit>("TextMainBump");
+  box.setFocus();
+  QTest::keyClicks(&box, "x");
+  choose(opening().MenuFileSave);
+  const QString said = find<QLabel>("StatusText").text();
+  EXPECT_TRUE(said.contains("Main Bump")) << said.toStdString();
+  EXPECT_TRUE(said.contains("Enter")) << said.toStdString();
+}
+
+TEST_F(WindowTest, TheProgressGoesWhenAPassIsOver) {
+  auto& bar = find<QProgressBar>("Progress");
+  dispatcher().run([&] {
+    window().setProgress(1 << 20, 64 << 20);
+    EXPECT_TRUE(bar.isVisible());
+  });
+  EXPECT_FALSE(bar.isVisible());
+  dispatcher().run([&] {
+    window().setProgress(1 << 20, 64 << 20);
+    throw text::FileError(text::ErrorNumber::diskFull);
+  });
+  EXPECT_FALSE(bar.isVisible());
+}
+
+TEST_F(WindowTest, ListsStartAtTheirTopAfterAnOpen) {
+  auto& actors = find<ListView>("ListActors");
+  auto& channels = find<ListView>("ListChannels");
+  actors.verticalScrollBar()->setValue(5);
+  channels.verticalScrollBar()->setValue(9);
+  ASSERT_GT(channels.verticalScrollBar()->value(), 0);
+  open(kTilda + "tilda.cr2");
+  EXPECT_EQ(actors.verticalScrollBar()->value(), 0);
+  EXPECT_EQ(channels.verticalScrollBar()->value(), 0);
+  // A dialog that is left changes nothing.
+  channels.verticalScrollBar()->setValue(9);
+  choose(opening().MenuFileOpen);
+  EXPECT_EQ(channels.verticalScrollBar()->value(), 9);
+}
+
+TEST_F(WindowTest, ThePanesHaveTitlesAndTheSizeHasATip) {
+  EXPECT_EQ(find<QLabel>("DestinationTitle").text(), "Destination");
+  EXPECT_EQ(find<QLabel>("SourceTitle").text(), "Source");
+  EXPECT_TRUE(find<QLabel>("SourceTitle").isVisible());
+  opening().LabelFileSize.setCaption(" 3145728 bytes");
+  dispatcher().sync();
+  EXPECT_EQ(find<QLabel>("LabelFileSize").toolTip(), "3.00 MiB");
+}
+
+TEST_F(WindowTest, F11IsAFullScreenAndBack) {
+  choose(opening().menuScreenRes);
+  EXPECT_TRUE(window().isFullScreen());
+  choose(opening().menuScreenRes);
+  EXPECT_FALSE(window().isFullScreen());
+  choose(opening().menuScreenRes);
+  ASSERT_TRUE(window().isFullScreen());
+  QTest::keyClick(&window(), Qt::Key_Escape);
+  EXPECT_FALSE(window().isFullScreen());
+}
+
+TEST_F(WindowTest, AWindowComesUpWholeOnItsScreen) {
+  const QRect room = window().screen()->availableGeometry();
+  window().resize(4000, 3000);
+  window().move(room.right() - 50, room.bottom() - 50);
+  keepOnScreen(window());
+  QTest::qWait(20);
+  EXPECT_TRUE(room.contains(window().frameGeometry()));
+}
+
+TEST_F(WindowTest, TheFocusIsSeenOnWhateverTakesIt) {
+  window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+  std::set<QString> seen;
+  find<QWidget>("TextMainOBJ").setFocus();
+  for (int i = 0; i < 60; ++i) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QWidget* const now = QApplication::focusWidget();
+    ASSERT_NE(now, nullptr);
+    if (qobject_cast<QLineEdit*>(now) != nullptr) continue;
+    const auto* ring = window().findChild<QWidget*>("FocusRing");
+    ASSERT_NE(ring, nullptr) << now->objectName().toStdString();
+    EXPECT_TRUE(ring->isVisible());
+    const QRect around(now->mapTo(&window(), QPoint(0, 0)), now->size());
+    EXPECT_TRUE(ring->geometry().contains(around)) << now->objectName().toStdString();
+    seen.insert(now->objectName());
+  }
+  EXPECT_TRUE(seen.contains("LabelMainTex")) << "the names of the references take the keys";
+  EXPECT_TRUE(seen.contains("ListActors"));
+  EXPECT_TRUE(seen.contains("PictureViewChannels"));
+}
+
+TEST_F(WindowTest, TheBracketCardTakesTheKeys) {
+  window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+  for (const auto key : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape}) {
+    choose(opening().MenuBrack);
+    ASSERT_TRUE(opening().PictureBrktsOK.visible());
+    EXPECT_EQ(QApplication::focusWidget(), &find<QWidget>("PictureBrktsOK"));
+    QTest::keyClick(QApplication::focusWidget(), key);
+    EXPECT_FALSE(opening().PictureBrktsOK.visible());
+    EXPECT_TRUE(opening().menuFile.enabled());
+  }
+}
+
+TEST_F(WindowTest, TheClosingAnimationCanBeTurnedOff) {
+  auto* entry = window().findChild<QAction*>("ClosingAnimation");
+  ASSERT_NE(entry, nullptr);
+  EXPECT_TRUE(entry->isChecked());
+  entry->trigger();
+  EXPECT_EQ(session().settings.get(kWindowSection, kClosingAnimationKey, ""), "off");
+  EXPECT_FALSE(window().drawTile(0, 0));
+}
+
+}  // namespace
+
+}  // namespace norvik::desktop
