@@ -1,9 +1,9 @@
 #include "desktop/forms/link_window.h"
 
 #include "desktop/bind/label_button.h"
-#include "desktop/forms/filter_line.h"
 #include "desktop/forms/pose_parts.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/words.h"
 #include "erc/link_kinds.h"
 #include "erc/link_preview.h"
@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -54,7 +55,9 @@ QWidget* makeList(Maker& maker, front::ListBox& list, const QString& name,
   ListView& view = maker.list(list, *pane);
   view.setAccessibleName(name);
   title->setBuddy(&view);
-  column->addWidget(new FilterLine(maker, list, view, pane));
+  auto* filter = new ListFilter(list, view, *pane);
+  filter->show();
+  column->addWidget(filter);
   column->addWidget(&view, 1);
   maker.showWhileAny(*pane, {&list});
   return pane;
@@ -85,6 +88,8 @@ LinkWindow::LinkWindow(const WindowParts& parts, erc::FormECM& form)
   foot->addWidget(&makeLabelButton(maker(), form.LabelDone, *this));
   foot->addWidget(&makeLabelButton(maker(), form.LabelCancel, *this));
   column->addLayout(foot);
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { openFilter(*this); });
   resize(kWidth, kHeight);
 }
 

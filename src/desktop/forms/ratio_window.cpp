@@ -1,12 +1,14 @@
 #include "desktop/forms/ratio_window.h"
 
-#include "desktop/forms/filter_line.h"
+#include "desktop/bind/list_model.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace norvik::desktop {
@@ -27,7 +29,9 @@ RatioWindow::RatioWindow(const WindowParts& parts, erc::FormListEMCs& form)
   column->addWidget(&title);
   list_ = &maker().list(form.ListEMCs, *this);
   list_->setAccessibleName(QStringLiteral("Channels and links"));
-  column->addWidget(new FilterLine(maker(), form.ListEMCs, *list_, this));
+  auto* filter = new ListFilter(form.ListEMCs, *list_, *this);
+  filter->show();
+  column->addWidget(filter);
   column->addWidget(list_, 1);
   auto* hint = new QLabel(
       QStringLiteral(
@@ -52,6 +56,8 @@ RatioWindow::RatioWindow(const WindowParts& parts, erc::FormListEMCs& form)
   });
   list_->installEventFilter(this);
   ratio_->installEventFilter(this);
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { openFilter(*this); });
   resize(kWidth, kHeight);
 }
 
@@ -70,9 +76,11 @@ bool RatioWindow::eventFilter(QObject* watched, QEvent* event) {
 /// Chooses the next ratio as a double click on it does.
 void RatioWindow::goToRatio(int step) {
   front::ListBox& list = form_.ListEMCs;
-  for (int row = list.index() + step; row >= 0 && row < list.count(); row += step) {
-    if (!list.item(row).starts_with("\tDelta") || list_->isRowHidden(row)) continue;
-    list.choose(row);
+  const auto* shownItems = dynamic_cast<const ListModel*>(list_->model());
+  for (int item = list.index() + step; item >= 0 && item < list.count(); item += step) {
+    const int row = shownItems == nullptr ? -1 : shownItems->rowOf(item);
+    if (row < 0 || !list.item(item).starts_with("\tDelta")) continue;
+    list.choose(item);
     maker().dispatcher().raise(list.doubleClicked);
     list_->scrollTo(list_->model()->index(row, 0));
     ratio_->setFocus();
