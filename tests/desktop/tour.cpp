@@ -3,6 +3,7 @@
 // Usage: norvik-tour copy DRIVE SETTINGS          copies a morph between the sample figures
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
 //        norvik-tour pose DRIVE SETTINGS OUT      takes those of the pose tools alone
+//        norvik-tour phi DRIVE SETTINGS OUT       takes those of the phi tools alone
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
@@ -12,6 +13,7 @@
 #include "desktop/link_pictures.h"
 #include "desktop/material_pictures.h"
 #include "desktop/operator.h"
+#include "desktop/phi_pictures.h"
 #include "desktop/pose_pictures.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
@@ -172,6 +174,13 @@ void takeChannelPictures(desktop::Program& program, desktop::Operator& hand,
   hand.click(u"PictureViewChannels"_s);
 }
 
+void takePhi(desktop::Program& program, desktop::Operator& hand, const QString& drive,
+             const Photographer& camera) {
+  desktop::takePhiPictures(
+      program, hand, drive, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -243,6 +252,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
   desktop::takePosePictures(
       hand, drive, [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+  takePhi(program, hand, drive, camera);
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -331,6 +341,12 @@ int main(int count, char** arguments) {
       desktop::takePosePictures(hand, drive, [&](const QString& name, const QWidget& window) {
         camera.take(name, window);
       });
+      QApplication::quit();
+    }
+    if (words[1] == u"phi"_s) {
+      hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+      hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+      takePhi(program, hand, drive, Photographer(program, words.value(4)));
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);

@@ -14,7 +14,7 @@ class LineEdits {
  public:
   /// A line that became another.
   struct Edit {
-    int index;
+    int index = 0;
     std::string before;
     std::string after;
   };

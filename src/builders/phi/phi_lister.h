@@ -20,7 +20,7 @@ void wirePhiLister(front::Session& session, FormTree& form);
 
 /// What an item of ListPhi says.
 struct TreeItem {
-  double depth;
+  double depth = 0;
   std::string name;
 };
 TreeItem treeItem(std::string_view item);

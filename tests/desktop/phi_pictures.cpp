@@ -1,0 +1,55 @@
+#include "desktop/phi_pictures.h"
+
+#include <QTreeWidget>
+#include <QtTest>
+
+namespace norvik::desktop {
+
+namespace {
+
+using Qt::StringLiterals::operator""_s;
+using Take = std::function<void(const QString& name, const QWidget& window)>;
+using ChooseTheme = std::function<void(const QString&)>;
+
+constexpr int kShown = 200;  // milliseconds
+
+void takeTree(Program& program, Operator& hand, const ChooseTheme& chooseTheme, const Take& take) {
+  front::Form& form = *program.session().findForm("FormTree");
+  program.dispatcher().run("FormTree", [&] { program.session().load(form); });
+  QWidget& window = hand.find(u"FormTree"_s);
+  window.move(0, 0);
+  auto* tree = window.findChild<QTreeWidget*>();
+  tree->setCurrentItem(tree->findItems(u"lShldr"_s, Qt::MatchExactly | Qt::MatchRecursive).at(0));
+  take(u"branch"_s, window);
+  chooseTheme(u"dark"_s);
+  take(u"branch-dark"_s, window);
+  chooseTheme(u"light"_s);
+  window.close();
+  QTest::qWait(kShown);
+}
+
+}  // namespace
+
+void takePhiPictures(Program& program, Operator& hand, const QString& drive,
+                     const ChooseTheme& chooseTheme, const Take& take) {
+  hand.willPress(u"Yes"_s);
+  hand.willChoose(drive + u"/Runtime/Libraries/Characters/Tilda/tilda.cr2"_s);
+  hand.menu({u"MenuPhiTools"_s, u"MenuPhi"_s});
+  QWidget& window = hand.find(u"FormPhi"_s);
+  window.move(0, 0);
+  take(u"phi"_s, window);
+  // Both forms have a list of that name.
+  auto* list = window.findChild<QAbstractItemView*>(u"ListPhi"_s);
+  list->setCurrentIndex(list->model()->index(7, 0));
+  QTest::keyClick(list, Qt::Key_Return);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  take(u"phi-edited"_s, window);
+  chooseTheme(u"dark"_s);
+  take(u"phi-dark"_s, window);
+  chooseTheme(u"light"_s);
+  window.close();
+  QTest::qWait(kShown);
+  takeTree(program, hand, chooseTheme, take);
+}
+
+}  // namespace norvik::desktop
