@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace norvik::text {
@@ -21,6 +22,7 @@ class PatchedFile {
   void put(std::uint64_t offset, char byte);
 
  private:
+  std::string path_;
   std::unique_ptr<HostFile> file_;
 };
 
