@@ -327,6 +327,14 @@ void changeColour(Bench& bench) {
   materials::writeColour(bench.disk, bench.path, "C:\\recoloured.cr2", "KdColor", 0, *position);
 }
 
+void removeMaterials(Bench& bench) {
+  materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
+}
+
+void addMaterials(Bench& bench) {
+  materials::addMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"});
+}
+
 void addGeometry(Bench& bench) {
   bench.opening.ListAltGeomActors.add("    lToe:1 * 1");
   bench.opening.ListAltGeomActors.choose(0);
@@ -406,39 +414,31 @@ std::string fileOf(Figure figure) {
 const std::vector<Pass>& passes() {
   using enum Kind;
   using enum Figure;
-  static const std::vector<Pass> all {
+  static const std::vector<Pass> all{
       pass("whole-line read", read, plain, readLines),
       pass("field read", read, plain, readFields),
       pass("CheckSGI of a conventional file", read, plain,
-           [](Bench& bench) {
-      figure::CheckSGI(bench.session, bench.path); }),
+           [](Bench& bench) { figure::CheckSGI(bench.session, bench.path); }),
       pass("ListTheActors", read, plain,
-           [](Bench& bench) {
-      figure::ListTheActors(bench.session, bench.path); }),
+           [](Bench& bench) { figure::ListTheActors(bench.session, bench.path); }),
       pass("OpenCR2", read, plain,
-           [](Bench& bench) {
-      figure::OpenCR2(bench.session, bench.path); }),
+           [](Bench& bench) { figure::OpenCR2(bench.session, bench.path); }),
       pass("MatLister", read, plain,
-           [](Bench& bench) {
-      figure::MatLister(bench.session, bench.path); }),
+           [](Bench& bench) { figure::MatLister(bench.session, bench.path); }),
       pass("FindMapLocs", read, plain,
-           [](Bench& bench) {
-      figure::FindMapLocs(bench.session, bench.path); }),
+           [](Bench& bench) { figure::FindMapLocs(bench.session, bench.path); }),
       pass("ViewChannels", read, plain,
-           [](Bench& bench) {
-      channels::ViewChannels(bench.session, bench.path); }),
+           [](Bench& bench) { channels::ViewChannels(bench.session, bench.path); }),
       pass("bracket count", read, plain,
            [](Bench& bench) {
-      text::LineReader in(bench.disk, bench.path);
-      mustHold(figure::countBrackets(in).left > 1, "no brackets");
+             text::LineReader in(bench.disk, bench.path);
+             mustHold(figure::countBrackets(in).left > 1, "no brackets");
            }),
       pass("LineEndingRepair, LF file", rewrite, lfEnds, repairLineEnds),
       pass("SpaceChopper, one line", rewrite, oneBlank,
-           [](Bench& bench) {
-      figure::SpaceChopper(bench.session, bench.path); }),
+           [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
       pass("SpaceChopper, every line", rewrite, blanks,
-           [](Bench& bench) {
-      figure::SpaceChopper(bench.session, bench.path); }),
+           [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
       pass("phi file", open, plain, makePhi),
       pass("cut of a branch", rewrite, plain, cutBranch),
       pass("extraction of a body part", read, plain, extractPart),
@@ -463,19 +463,14 @@ const std::vector<Pass>& passes() {
       pass("ratio", rewrite, plain, changeRatio),
       pass("null figure", rewrite, plain, makeNullFigure),
       pass("colour of a material", rewrite, plain, changeColour),
-      pass("removal of materials", rewrite, plain,
-           [](Bench& bench) {
-      materials::removeMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"}, true);
-           }),
-      pass("addition of materials", rewrite, plain,
-             materials::addMaterials(bench.disk, bench.path, "C:\\f.new", {"lips"});
+      pass("removal of materials", rewrite, plain, removeMaterials),
+      pass("addition of materials", rewrite, plain, addMaterials),
       pass("alternate geometry", rewrite, plain, addGeometry),
       pass("figure out of a scene", rewrite, plain, takeFigureOut),
       pass("pose, list and copy of all parts", rewrite, plain, buildPose),
       pass("MAT file, lists and copy", rewrite, plain, buildMat),
       pass("MOR skeleton", read, plain, writeSkeleton),
-      pass("weld, the pose that receives", rewrite, plain, mergePoses)
-  };
+      pass("weld, the pose that receives", rewrite, plain, mergePoses)};
   return all;
 }
 

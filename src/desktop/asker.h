@@ -31,6 +31,8 @@ class Asker {
   front::Answer box(const QString& title, const QString& text, int style) {
     return box({.title = title, .text = text, .style = style});
   }
+  /// A box that may come again: none is OK for this one and all that follow.
+  virtual std::optional<front::Answer> repeatedBox(const Box& asked) { return box(asked); }
 
   struct File {
     bool save = false;
@@ -47,6 +49,12 @@ class Asker {
   virtual std::optional<front::Colour> colour(front::Colour initial) = 0;
   /// Lets the operator set the printer up; false on a cancel.
   virtual bool printer(QPrinter& printer) = 0;
+  /// Whether the operator wants to see the pages first.
+  virtual bool wantsPreview() const { return false; }
+  /// Shows the pages that `paint` makes; from there they go to the printer.
+  virtual void preview(QPrinter& printer, const std::function<void(QPrinter&)>& paint) {
+    paint(printer);
+  }
 };
 
 }  // namespace norvik::desktop

@@ -89,12 +89,15 @@ front::Answer DesktopFrontEnd::messageBox(std::string_view text, std::string_vie
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);
   const std::string note = dispatcher_.attached() ? dispatcher_.session().caution() : std::string{};
-  return asker_.box({.title = shown(title),
-                     .text = shownMessage(text),
-                     .style = style,
-                     .note = shownMessage(note),
-                     .cautious = !note.empty(),
-                     .changes = changesOnOffer(style)});
+  const Asker::Box box{.title = shown(title),
+                       .text = shownMessage(text),
+                       .style = style,
+                       .note = shownMessage(note),
+                       .cautious = !note.empty(),
+                       .changes = changesOnOffer(style)};
+  const bool repeats =
+      repeated_ && title == *repeated_ && (style & front::kButtonMask) == front::kOkCancel;
+  return repeats ? repeatedBox(box) : asker_.box(box);
 }
 
 /// A finished result and the figure that it was made from, while the operator is asked about it.
@@ -114,6 +117,23 @@ std::optional<ComparedFiles> DesktopFrontEnd::changesOnOffer(int style) const {
     files.after = disk_.hostPath(offered.scratch);
   });
   return known ? std::optional{files} : std::nullopt;
+}
+
+/// Asks until the operator says OK for all that are to come.
+front::Answer DesktopFrontEnd::repeatedBox(const Asker::Box& box) {
+  if (okForAll_) return front::Answer::ok;
+  const auto answer = asker_.repeatedBox(box);
+  okForAll_ = !answer;
+  return answer.value_or(front::Answer::ok);
+}
+
+void DesktopFrontEnd::beginRepeats(std::string_view title) {
+  repeated_ = title;
+  okForAll_ = false;
+}
+
+void DesktopFrontEnd::endRepeats() {
+  repeated_.reset();
 }
 
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
@@ -168,7 +188,14 @@ void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string
                             std::size_t headingLines) {
   QStringList page;
   for (const std::string& line : lines) page << shown(line);
-  printLines(printer(), shown(font), page, static_cast<int>(headingLines));
+  const auto paint = [&](QPrinter& pages) {
+    printLines(pages, shown(font), page, static_cast<int>(headingLines));
+  };
+  if (asker_.wantsPreview()) {
+    asker_.preview(printer(), paint);
+  } else {
+    paint(printer());
+  }
 }
 
 void DesktopFrontEnd::setHourglass(front::Form&, bool on) {

@@ -7,6 +7,7 @@
 #include "desktop/pacer.h"
 #include "desktop/sound.h"
 #include "front/front_end.h"
+#include "front/repeated_question.h"
 #include "text/disk.h"
 
 #include <QElapsedTimer>
@@ -30,7 +31,7 @@ class Stage {
   virtual bool drawTile(int left, int top) = 0;
 };
 
-class DesktopFrontEnd : public front::FrontEnd {
+class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions {
  public:
   DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk);
   ~DesktopFrontEnd() override;
@@ -50,6 +51,8 @@ class DesktopFrontEnd : public front::FrontEnd {
   bool waiting() const { return waiting_; }
 
   front::Answer messageBox(std::string_view text, std::string_view title, int style) override;
+  void beginRepeats(std::string_view title) override;
+  void endRepeats() override;
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
@@ -83,6 +86,7 @@ class DesktopFrontEnd : public front::FrontEnd {
 
   std::optional<ComparedFiles> changesOnOffer(int style) const;
   QString hostFolder(const std::string& folder) const;
+  front::Answer repeatedBox(const Asker::Box& box);
   QString proposedName(const std::string& file) const;
   QPrinter& printer();
 
@@ -96,7 +100,9 @@ class DesktopFrontEnd : public front::FrontEnd {
   std::map<const front::PictureBox*, std::unique_ptr<GlDevice>> devices_;
   Pacer pacer_;
   QElapsedTimer sincePump_;
-  qint64 quiet_ = 0;  ///< nanoseconds to the next pump that is worth it
+  qint64 quiet_ = 0;                     ///< nanoseconds to the next pump that is worth it
+  std::optional<std::string> repeated_;  ///< the title of the boxes that may come again
+  bool okForAll_ = false;
   bool hourglass_ = false;
   bool waiting_ = false;
   bool stopped_ = false;

@@ -10,7 +10,9 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 namespace norvik::desktop {
 
@@ -117,16 +119,34 @@ void addChangesButton(QMessageBox& box, const ComparedFiles& files) {
                    [&box, files] { showChanges(files, &box); });
 }
 
-front::Answer WindowAsker::box(const Box& asked) {
+/// Shows the box, to which `addButtons` has added its own. What the operator pressed.
+int exec(const Asker::Box& asked, const std::function<void(QMessageBox&)>& addButtons) {
   const bool mustAnswer = (asked.style & front::kButtonMask) == front::kYesNo;
   QuestionBox box(iconOf(asked.style), asked, buttonsOf(asked.style), owner(), mustAnswer);
   if (asked.changes) addChangesButton(box, *asked.changes);
+  addButtons(box);
   const auto refusal = refusalOf(asked.style);
   if (!mustAnswer) box.setEscapeButton(refusal);
   if (asked.cautious) box.setDefaultButton(refusal);
   const int button = box.exec();
   // A box that goes away unanswered, with its window, refuses.
-  return answerOf(button == QDialog::Rejected ? int{refusal} : button);
+  return button == QDialog::Rejected ? int{refusal} : button;
+}
+
+}  // namespace
+
+front::Answer WindowAsker::box(const Box& asked) {
+  return answerOf(exec(asked, [](QMessageBox&) {}));
+}
+
+std::optional<front::Answer> WindowAsker::repeatedBox(const Box& asked) {
+  bool all = false;
+  const int button = exec(asked, [&all](QMessageBox& box) {
+    const auto* forAll = box.addButton(QStringLiteral("OK for &all"), QMessageBox::YesRole);
+    QObject::connect(forAll, &QPushButton::clicked, &box, [&all] { all = true; });
+  });
+  if (all) return std::nullopt;
+  return answerOf(button);
 }
 
 std::optional<QString> WindowAsker::file(const File& file) {
@@ -147,7 +167,27 @@ std::optional<front::Colour> WindowAsker::colour(front::Colour initial) {
 bool WindowAsker::printer(QPrinter& printer) {
   QPrintDialog dialog(&printer, owner());
   dialog.setObjectName(QStringLiteral("PrintDialog"));
-  return dialog.exec() == QDialog::Accepted;
+  // The dialog takes its further tabs over.
+  auto* pages = new QWidget;
+  pages->setWindowTitle(QStringLiteral("Preview"));
+  auto* first = new QCheckBox(QStringLiteral("&Show the pages first"), pages);
+  first->setObjectName(QStringLiteral("PreviewFirst"));
+  first->setChecked(preview_);
+  auto* column = new QVBoxLayout(pages);
+  column->addWidget(first);
+  column->addStretch();
+  dialog.setOptionTabs({pages});
+  const bool accepted = dialog.exec() == QDialog::Accepted;
+  preview_ = first->isChecked();
+  return accepted;
+}
+
+void WindowAsker::preview(QPrinter& printer, const std::function<void(QPrinter&)>& paint) {
+  QPrintPreviewDialog dialog(&printer, owner());
+  dialog.setObjectName(QStringLiteral("PrintPreview"));
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested,
+                   [&paint](QPrinter* pages) { paint(*pages); });
+  dialog.exec();
 }
 
 }  // namespace norvik::desktop

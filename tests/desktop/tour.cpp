@@ -10,6 +10,7 @@
 
 #include "desktop/bind/drop_mark.h"
 #include "desktop/link_pictures.h"
+#include "desktop/material_pictures.h"
 #include "desktop/operator.h"
 #include "desktop/pose_pictures.h"
 #include "desktop/spin_timing.h"
@@ -232,6 +233,12 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   camera.take(u"mesh-dark"_s);
   chooseTheme(program, u"light"_s);
   takeWorkshopPictures(program, hand, camera);
+  desktop::takeMaterialPictures(
+      hand, drive + kCharacters + u"tilda.cr2"_s, drive,
+      [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, QWidget* window) {
+        camera.take(name, window == nullptr ? program.mainWindow() : *window);
+      });
   hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
   hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
   desktop::takePosePictures(

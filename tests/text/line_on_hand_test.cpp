@@ -55,7 +55,7 @@ TEST(LineOnHandTest, PassingOverLinesChangesNothing) {
     return static_cast<std::size_t>(state >> 33U) % below;
   };
   Drive drive;
-  for (int round = 0; round < 3000; ++round) {
+  for (int round = 0; round < 800; ++round) {
     std::string bytes;
     for (std::size_t i = next(40); i > 0; --i) bytes += pieces[next(pieces.size())];
     drive.folder.write("a.cr2", bytes);

@@ -3,6 +3,7 @@
 #include "builders/geometry/geometry_blocks.h"
 #include "channels/actor_block.h"
 #include "figure/actor_entry.h"
+#include "text/file_names.h"
 #include "text/line_search.h"
 #include "text/number_text.h"
 
@@ -78,6 +79,14 @@ class PassingFile {
   text::Disk& disk_;
   std::string path_;
 };
+
+/// Whether a result is the file that is worked on. By its name too: the disk may be in a state in
+/// which it cannot tell.
+bool isOpened(const front::Session& session, const std::string& result) {
+  const std::string& opened = session.opening.OpenedPath;
+  return text::sameName(session.disk.inFull(opened), session.disk.inFull(result)) ||
+         session.disk.isSameFile(opened, result);
+}
 
 /// The OBJ that the operator picks, if it is one of Poser's geometries.
 std::optional<std::string> askForGeometry(front::Session& session) {
@@ -171,7 +180,7 @@ void removeOldResults(front::Session& session) {
   const front::Opening& opening = session.opening;
   for (const std::string_view name : {kFigureResult, kPropResult}) {
     const std::string result = opening.inProgramFolder(name);
-    if (session.disk.isSameFile(result, opening.OpenedPath)) continue;
+    if (isOpened(session, result)) continue;
     text::ignoringErrors([&] { session.disk.remove(result); });
   }
 }

@@ -3,6 +3,7 @@
 #include "builders/phi/phi_writer.h"
 #include "builders/phi/view_phi.h"
 #include "figure/check_sgi.h"
+#include "front/repeated_question.h"
 #include "text/columns.h"
 #include "text/first_dot.h"
 #include "text/rewrite_pass.h"
@@ -28,6 +29,7 @@ bool writePhi(front::Session& session, const std::string& figure, const std::str
   text::keepApart(session.disk, figure, scratch);
   text::ignoringErrors([&] { session.disk.remove(scratch); });
   text::LineWriter out(session.disk, scratch, text::LineWriter::Mode::append);
+  const front::RepeatedQuestion limbs(session.front, "Rotation Error!");
   PhiWriter writer(session, figure, out);
   const bool complete = writer.write();
   out.close();

@@ -26,7 +26,8 @@ void saveCameras(front::Session& session, const std::string& cameras) {
   pass.out().line(text::passThrough(pass.in(), {atStart(kMainCamera)}, isMainCamera));
   text::copyUpTo(pass, {anywhere(kReference)}, text::holding(kReference));
   pass.finish();
-  session.disk.replace(scratch, cameras);
+  // A camera file that could not be seen is not to be lost.
+  session.disk.rename(scratch, cameras);
   session.hourglass(false);
   session.front.messageBox("Camera info for " + scene + " saved as " + cameras, "Note!",
                            front::kOk);

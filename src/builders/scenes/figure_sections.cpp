@@ -4,8 +4,6 @@
 #include "text/line_filter.h"
 #include "text/line_scan.h"
 
-#include <algorithm>
-
 namespace norvik::builders {
 
 namespace {
@@ -20,12 +18,23 @@ bool isBrace(char first) {
 }
 
 /// The offset of the first line from `start` on that begins at the margin, or the text's size.
-/// `start` is that of a line.
+/// `start` is that of a line. Hardly any line does, so the blocks are looked at by chunks.
 std::size_t findMarginLine(std::string_view lines, std::size_t start) {
-  while (start < lines.size() && !isAtMargin(lines[start])) {
-    start = std::min(text::findLineEnd(lines, start) + 1, lines.size());
+  std::size_t at = start;
+  bool lineStart = true;
+  for (; at + text::ByteChunk::kSize <= lines.size(); at += text::ByteChunk::kSize) {
+    const text::ByteChunk chunk(lines.data() + at);
+    const std::uint64_t ends = chunk.matching('\r', '\n');
+    const std::uint64_t starts = ends << 1U | (lineStart ? 1U : 0U);
+    const std::uint64_t hits = starts & ~ends & ~chunk.matching(' ', '\t');
+    if (hits != 0) return at + text::firstOf(hits);
+    lineStart = text::isLineEnd(lines[at + text::ByteChunk::kSize - 1]);
   }
-  return start;
+  for (; at < lines.size(); ++at) {
+    if (lineStart && isAtMargin(lines[at])) return at;
+    lineStart = text::isLineEnd(lines[at]);
+  }
+  return lines.size();
 }
 
 }  // namespace
