@@ -132,9 +132,9 @@ ToolUnderFaults materialLibrary() {
 
 using Case = std::tuple<ToolUnderFaults, HostFault>;
 
-class BuilderFaultsTest : public testing::TestWithParam<Case> {};
+class SceneFaultsTest : public testing::TestWithParam<Case> {};
 
-TEST_P(BuilderFaultsTest, TargetIsOldOrNew) {
+TEST_P(SceneFaultsTest, TargetIsOldOrNew) {
   const auto& [tool, fault] = GetParam();
   expectOldOrNew(tool, fault);
 }
@@ -143,7 +143,7 @@ std::string caseName(const testing::TestParamInfo<Case>& info) {
   return std::get<0>(info.param).name + std::get<1>(info.param).name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Tools, BuilderFaultsTest,
+INSTANTIATE_TEST_SUITE_P(Tools, SceneFaultsTest,
                          testing::Combine(testing::Values(alternateGeometry(), geometryOnResult(),
                                                           sceneToFigure(), restoredCameras(),
                                                           savedCameras(), filmBackground(),
