@@ -3,6 +3,7 @@
 #include "desktop/file_chooser.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QDir>

@@ -86,14 +86,15 @@ bool ListFilter::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
-void openFilter(QWidget& window, const front::ListBox& otherwise) {
+void openFilter(QWidget& window, const front::ListBox* otherwise) {
   const QWidget* keys = QApplication::focusWidget();
   ListFilter* chosen = nullptr;
   for (QWidget* widget : window.findChildren<QWidget*>()) {
     auto* filter = dynamic_cast<ListFilter*>(widget);
     if (filter == nullptr || !filter->view().isVisible()) continue;
     const bool hasKeys = keys != nullptr && filter->parentWidget()->isAncestorOf(keys);
-    if (hasKeys || (chosen == nullptr && &filter->list() == &otherwise)) chosen = filter;
+    const bool isOther = otherwise == nullptr || &filter->list() == otherwise;
+    if (hasKeys || (chosen == nullptr && isOther)) chosen = filter;
   }
   if (chosen != nullptr) chosen->open();
 }

@@ -39,7 +39,7 @@ class ListFilter : public QWidget {
 };
 
 /// Opens the filter in whose part of the window the keys are, else that of a list; none whose list
-/// is not on view.
-void openFilter(QWidget& window, const front::ListBox& otherwise);
+/// is not on view. Without a list it is the first one on view.
+void openFilter(QWidget& window, const front::ListBox* otherwise = nullptr);
 
 }  // namespace norvik::desktop

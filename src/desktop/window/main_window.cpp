@@ -85,7 +85,7 @@ void MainWindow::makeMenus() {
   QAction* filter = view->addAction(QStringLiteral("&Filter the List"));
   filter->setObjectName(QStringLiteral("FilterList"));
   filter->setShortcut(QKeySequence::Find);
-  connect(filter, &QAction::triggered, this, [this] { openFilter(*this, opening_.ListChannels); });
+  connect(filter, &QAction::triggered, this, [this] { openFilter(*this, &opening_.ListChannels); });
 }
 
 /// What the window itself does about an entry, once the tools have done theirs.
