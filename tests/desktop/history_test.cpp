@@ -79,9 +79,11 @@ TEST(ChangesViewTest, GoesFromChangeToChange) {
 /// Says Yes and remembers what was asked.
 class YesAsker : public Asker {
  public:
-  front::Answer box(const QString&, const QString& text, int style) override {
-    asked << text;
-    return (style & front::kButtonMask) == front::kYesNo ? front::Answer::yes : front::Answer::ok;
+  using Asker::box;
+  front::Answer box(const Box& box) override {
+    asked << box.text;
+    return (box.style & front::kButtonMask) == front::kYesNo ? front::Answer::yes
+                                                             : front::Answer::ok;
   }
   std::optional<QString> file(const File&) override { return std::nullopt; }
   std::optional<front::Colour> colour(front::Colour) override { return std::nullopt; }
