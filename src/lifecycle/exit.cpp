@@ -23,6 +23,16 @@ void appendNote(front::Session& session) {
   file.close();
 }
 
+/// Forms that say or ask something on leaving do so in this order; the others follow.
+void unloadForms(front::Session& session) {
+  for (const std::string_view name : {"FormLaunch", "FormOBJ", "FormTree", "FormEditor"}) {
+    if (front::Form* form = session.findForm(name); form != nullptr) session.unload(*form);
+  }
+  for (front::Form* form : session.forms()) {
+    if (form != &session.opening) session.unload(*form);
+  }
+}
+
 void exitSteps(front::Session& session) {
   front::Opening& opening = session.opening;
   if (opening.PathsEdited && session.front.messageBox("Save path changes before exit?", "Alert!",
@@ -33,9 +43,7 @@ void exitSteps(front::Session& session) {
   appendNote(session);
   front::saveRecentFiles(session);
   opening.ListMRU.hide();
-  for (front::Form* form : session.forms()) {
-    if (form != &opening) session.unload(*form);
-  }
+  unloadForms(session);
   front::deleteScratchFiles(session, front::kScratchFiles);
   playClosingAnimation(session);
   session.front.playSound(session.front.systemFolder() + "\\Tallow3.wav");

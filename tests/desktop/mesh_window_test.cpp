@@ -111,7 +111,10 @@ TEST_F(MeshWindowTest, TheRightButtonOverTheFormIsTheForms) {
   QTest::mouseClick(&find<QWidget>("PictureObjViewer2"), Qt::RightButton);
   EXPECT_EQ(released, "rr");
   // What has a right click of its own keeps it.
-  QTest::mouseClick(&find<QWidget>("LabelPlay"), Qt::RightButton);
+  auto& play = find<QWidget>("LabelPlay");
+  workshop.resize(1600, 900);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return play.isVisible() && !play.visibleRegion().isEmpty(); }));
+  QTest::mouseClick(&play, Qt::RightButton);
   EXPECT_EQ(released, "rr");
 }
 

@@ -77,6 +77,8 @@ TEST_F(MainForm, ADragBeginsOnlyWhileTheTrashIsArmed) {
     ++drops;
   });
   opening.ListActors.add("    hip:1 * 7");
+  // The first part is never removed, so that the trash does nothing with it.
+  opening.ListActors.choose(0);
   opening.ListActors.show();
   opening.PictureTrash.show();
   bench.play("drop ListActors PictureTrash\n");

@@ -63,15 +63,15 @@ struct ToolForm : front::Form {
 TEST(Exit, UnloadsOpenFormsBeforeTheMainForm) {
   ScriptBench bench;
   ToolForm launcher("FormLaunch");
-  ToolForm mesh("FormOBJ");
-  ToolForm tree("FormTree");
-  for (ToolForm* form : {&launcher, &mesh, &tree}) bench.session().addForm(*form);
+  ToolForm other("FormOther");
+  for (ToolForm* form : {&other, &launcher}) bench.session().addForm(*form);
   bench.start();
-  bench.play("load FormTree\nload FormLaunch\n");
+  bench.play("load FormOther\nload FormTree\nload FormLaunch\n");
   EXPECT_EQ(
       bench.play("exit\n"),
       (Lines{R"({"event":"form","form":"FormLaunch","state":"unloaded"})",
              R"({"event":"form","form":"FormTree","state":"unloaded"})",
+             R"({"event":"form","form":"FormOther","state":"unloaded"})",
              R"({"event":"sound","path":"C:\\WINDOWS\\Tallow3.wav"})",
              R"({"event":"form","form":"Opening","state":"unloaded"})", R"({"event":"end"})"}));
 }
