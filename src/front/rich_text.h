@@ -16,7 +16,7 @@ class RichTextBox : public TextBox {
 
   /// The colours of the first lines; lines behind them have the foreground colour.
   const std::vector<Colour>& lineColours() const { return lineColours_; }
-  void setLineColours(std::vector<Colour> colours) { set(lineColours_, colours); }
+  void setLineColours(const std::vector<Colour>& colours) { set(lineColours_, colours); }
 
   /// The colour of a line, counted from 0.
   Colour lineColour(std::size_t line) const {

@@ -15,6 +15,7 @@ using text::atStart;
 
 constexpr std::string_view kMorph = "\t\ttargetGeom";
 constexpr std::string_view kTwist = "\t\ttwist";
+constexpr int kBlocks = 2;  // of an actor: its place in the hierarchy, and its channels
 
 bool isMorph(std::string_view line) {
   return text::begins(line, kMorph);
@@ -60,7 +61,6 @@ void dropEntries(text::RewritePass& pass, const std::string& name) {
 
 void removeMorph(text::RewritePass& pass, const RemovedItem& item, const std::string& actor) {
   const std::string actorLine = "actor " + actor;
-  constexpr int kBlocks = 2;
   for (int block = 0; block < kBlocks; ++block) {
     copyThroughLine(pass, actorLine);
     copyLine(pass);
@@ -101,7 +101,9 @@ bool removeLink(text::RewritePass& pass, const RemovedItem& item) {
 /// Removes nothing: such a channel is looked for as if it were an actor.
 void copyTellingUse(front::Session& session, text::RewritePass& pass, const std::string& name) {
   const std::string actorLine = "actor " + name;
-  if (!copyThroughLine(pass, actorLine) || !copyThroughLine(pass, actorLine)) return;
+  for (int block = 0; block < kBlocks; ++block) {
+    if (!copyThroughLine(pass, actorLine)) return;
+  }
   const text::LineFilter stops{atStart(kMorph), atStart(kTwist), anywhere(name)};
   while (!pass.in().atEnd()) {
     pass.copyLines(stops);
