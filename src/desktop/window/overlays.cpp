@@ -85,10 +85,6 @@ void makeBracketCard(Maker& maker, front::Opening& opening, QWidget& over) {
     auto& button = maker.picture(*picture, *card, kPicture);
     button.setMinimumWidth(240);
     column->addWidget(&button, 0, Qt::AlignHCenter);
-    // The result waits for the operator, and both menus with it: the keys put it away.
-    maker.watch({picture}, [picture, &button] {
-      if (picture->visible() && !button.hasFocus()) button.setFocus(Qt::OtherFocusReason);
-    });
   }
   card->setOnEscape([&maker, &opening] {
     for (front::PictureButton* picture :
@@ -104,6 +100,15 @@ void makeBracketCard(Maker& maker, front::Opening& opening, QWidget& over) {
   column->addWidget(&pin, 0, Qt::AlignHCenter);
   maker.showWhileAny(*card, {&opening.PictureBrktsOK, &opening.PictureBrktLeft,
                              &opening.PictureBrktRight, &opening.PicturePushPin});
+  // The result waits for the operator, and both menus with it: once the card is up, the keys put it
+  // away.
+  for (front::PictureButton* picture :
+       {&opening.PictureBrktsOK, &opening.PictureBrktLeft, &opening.PictureBrktRight}) {
+    auto* button = card->findChild<QToolButton*>(QString::fromStdString(picture->name()));
+    maker.watch({picture}, [picture, button] {
+      if (picture->visible() && !button->hasFocus()) button->setFocus(Qt::OtherFocusReason);
+    });
+  }
   maker.watch({&opening.PicturePushPin}, [card] {
     if (card->isVisible()) card->place();
   });
