@@ -13,21 +13,6 @@ using ChooseTheme = std::function<void(const QString&)>;
 
 constexpr int kShown = 200;  // milliseconds
 
-void takeTree(Program& program, Operator& hand, const ChooseTheme& chooseTheme, const Take& take) {
-  front::Form& form = *program.session().findForm("FormTree");
-  program.dispatcher().run("FormTree", [&] { program.session().load(form); });
-  QWidget& window = hand.find(u"FormTree"_s);
-  window.move(0, 0);
-  auto* tree = window.findChild<QTreeWidget*>();
-  tree->setCurrentItem(tree->findItems(u"lShldr"_s, Qt::MatchExactly | Qt::MatchRecursive).at(0));
-  take(u"branch"_s, window);
-  chooseTheme(u"dark"_s);
-  take(u"branch-dark"_s, window);
-  chooseTheme(u"light"_s);
-  window.close();
-  QTest::qWait(kShown);
-}
-
 }  // namespace
 
 void takePhiPictures(Program& program, Operator& hand, const QString& drive,
@@ -49,7 +34,6 @@ void takePhiPictures(Program& program, Operator& hand, const QString& drive,
   chooseTheme(u"light"_s);
   window.close();
   QTest::qWait(kShown);
-  takeTree(program, hand, chooseTheme, take);
 }
 
 }  // namespace norvik::desktop
