@@ -15,8 +15,8 @@ constexpr int kShown = 200;  // milliseconds
 
 }  // namespace
 
-void takePhiPictures(Program& program, Operator& hand, const QString& drive,
-                     const ChooseTheme& chooseTheme, const Take& take) {
+void takePhiPictures(Operator& hand, const QString& drive, const ChooseTheme& chooseTheme,
+                     const Take& take) {
   hand.willPress(u"Yes"_s);
   hand.willChoose(drive + u"/Runtime/Libraries/Characters/Tilda/tilda.cr2"_s);
   hand.menu({u"MenuPhiTools"_s, u"MenuPhi"_s});

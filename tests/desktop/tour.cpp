@@ -177,7 +177,7 @@ void takeChannelPictures(desktop::Program& program, desktop::Operator& hand,
 void takePhi(desktop::Program& program, desktop::Operator& hand, const QString& drive,
              const Photographer& camera) {
   desktop::takePhiPictures(
-      program, hand, drive, [&](const QString& name) { chooseTheme(program, name); },
+      hand, drive, [&](const QString& name) { chooseTheme(program, name); },
       [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 }
 
