@@ -3,9 +3,9 @@
 
 #include "desk.h"
 #include "input.h"
-#include "obj/reset.h"
-#include "obj/spin.h"
-#include "obj/view.h"
+#include "workshop/reset.h"
+#include "workshop/spin.h"
+#include "workshop/view.h"
 #include "plain_mesh.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include "obj/leaving.h"
 
-#include "obj/reset.h"
+#include "workshop/reset.h"
 #include "text/line_writer.h"
 
 namespace norvik::obj {

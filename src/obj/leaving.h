@@ -1,7 +1,7 @@
 #pragma once
 // The end of the workshop's form.
 
-#include "obj/workshop.h"
+#include "workshop/workshop.h"
 
 namespace norvik::obj {
 

@@ -9,7 +9,7 @@
 #include "front/form_obj.h"
 #include "front/session.h"
 #include "materials/form_mat_coord.h"
-#include "obj/workshop.h"
+#include "workshop/workshop.h"
 #include "pose/form_mor.h"
 #include "pose/form_pz2.h"
 #include "pose/form_pz2_combine.h"
