@@ -96,7 +96,7 @@ TEST_F(ColourBookTest, DrawsTheSameColoursFromTheSameSeed) {
 }
 
 TEST_F(ColourBookTest, GivesThe3DViewItsShareOf255) {
-  const Diffuse diffuse = diffuseOf(front::colourOf(51, 102, 255));
+  const graphics::Material diffuse = diffuseOf(front::colourOf(51, 102, 255));
   EXPECT_FLOAT_EQ(diffuse.red, 0.2F);
   EXPECT_FLOAT_EQ(diffuse.green, 0.4F);
   EXPECT_FLOAT_EQ(diffuse.blue, 1);
