@@ -1,7 +1,7 @@
 // Pixels of small meshes, worked out by hand: a unit is 600 pixels, x = 0 and z = 0 are the middle,
 // y = 0 is the bottom.
 
-#include "obj/mesh_bench.h"
+#include "workshop/mesh_bench.h"
 
 namespace norvik::obj {
 namespace {

@@ -1,6 +1,6 @@
 // What follows a read: low meshes and morphs; and the view without 3D.
 
-#include "obj/mesh_bench.h"
+#include "workshop/mesh_bench.h"
 
 namespace norvik::obj {
 namespace {

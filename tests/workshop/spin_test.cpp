@@ -1,5 +1,5 @@
-#include "obj/spin_bench.h"
 #include "support/allocations.h"
+#include "workshop/spin_bench.h"
 
 #include <cmath>
 #include <string_view>

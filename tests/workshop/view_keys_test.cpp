@@ -1,4 +1,4 @@
-#include "obj/spin_bench.h"
+#include "workshop/spin_bench.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 // The read of a mesh: what it stores and what it keeps.
 
-#include "obj/mesh_bench.h"
+#include "workshop/mesh_bench.h"
 
 #include <limits>
 
