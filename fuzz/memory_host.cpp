@@ -65,6 +65,13 @@ void MemoryHost::addFile(const std::string& name, std::string_view bytes) {
   files_[name] = std::make_shared<Content>(Content{std::string{bytes}});
 }
 
+std::vector<std::string> MemoryHost::names() const {
+  std::vector<std::string> names;
+  names.reserve(files_.size());
+  for (const auto& [name, content] : files_) names.push_back(name);
+  return names;
+}
+
 std::string MemoryHost::bytesOf(const std::string& name) const {
   const auto found = files_.find(name);
   return found == files_.end() ? std::string{} : found->second->bytes;

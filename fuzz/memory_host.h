@@ -19,6 +19,8 @@ class MemoryHost final : public text::HostOps {
   void addFolder(std::string_view name);
   void addFile(const std::string& name, std::string_view bytes);
   bool has(const std::string& name) const { return files_.contains(name); }
+  /// The names of all files, in order.
+  std::vector<std::string> names() const;
   /// The bytes of a file; empty for one that is not there.
   std::string bytesOf(const std::string& name) const;
   /// The most bytes that one read hands out: small ones put a block's border anywhere in a text.
