@@ -38,6 +38,7 @@ void forgetMeshInView(Workshop& workshop) {
   workshop.mesh.clear();
   workshop.viewed = false;
   form.AddMode = false;
+  form.RenamesPending = false;
   form.MapDrawn = 0;
   form.MapSaved = 0;
   hideTools(form);
