@@ -6,7 +6,9 @@
 #include "text/number_text.h"
 #include "text/rewrite_pass.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 namespace norvik::obj {
 
@@ -60,11 +62,11 @@ void listBatch(front::Session& session) {
   list.clear();
   list.add(session.opening.LabelOBJFileName.caption());
   const std::string folder = session.disk.currentFolder() + "\\";
-  bool first = true;
-  for (const std::string& name : session.disk.matching(folder + "*.obj")) {
-    list.add(first ? name : folder + name);
-    first = false;
-  }
+  std::vector<std::string> names = session.disk.matching(folder + "*.obj");
+  std::stable_sort(names.begin(), names.end(), [](const std::string& one, const std::string& two) {
+    return text::lowered(one) < text::lowered(two);
+  });
+  for (std::size_t i = 0; i < names.size(); ++i) list.add(i == 0 ? names[i] : folder + names[i]);
 }
 
 void ObjScalerBatch(front::Session& session, float amount) {
