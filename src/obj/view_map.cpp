@@ -10,9 +10,6 @@ namespace norvik::obj {
 
 namespace {
 
-constexpr std::string_view kPictureFilter =
-    "Pictures|*.bmp;*.jpg;*.jpeg;*.png;*.gif|All files|*.*";
-
 /// The map as large as it is, or so small that it fits.
 void drawMap(front::PictureBox& picture, const graphics::Surface& map) {
   graphics::Surface& surface = picture.surface();
@@ -43,8 +40,8 @@ std::optional<std::string> findMap(front::Session& session) {
   if (session.disk.exists(path)) return path;
   session.front.messageBox("Can't find the file.", "Error!", front::kOk);
   front::CommonDialog& dialog = opening.CommonDialog1;
-  if (!dialog.open(session.front, session.disk.currentFolder(), "Open",
-                   {"Find the texture map", kPictureFilter, {}})) {
+  if (!dialog.open(session.front, session.disk.currentFolder(), {},
+                   {"Find the texture map", front::kMapFilter})) {
     return std::nullopt;
   }
   return dialog.fileName();
