@@ -61,7 +61,8 @@ void OperatorActs::tick(front::ListBox& list, int index, bool on) {
 
 void OperatorActs::drop(front::Control& from, front::Control& onto) {
   deliver(from.pressed, Mouse{});
-  if (from.dragging()) deliver(onto.dropped, from);
+  const auto* list = dynamic_cast<front::ListBox*>(&from);
+  if (list != nullptr && list->dragging()) deliver(onto.dropped, from);
 }
 
 void OperatorActs::dropFiles(const std::vector<std::string>& paths, front::Control& onto) {
