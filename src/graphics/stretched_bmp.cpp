@@ -57,7 +57,7 @@ void saveStretchedBmp(text::Disk& disk, const Surface& surface, Point size, cons
                       const std::string& scratch) {
   const auto good = [](int pixels) { return pixels > 0 && pixels <= kMostPixels; };
   if (!good(size.x) || !good(size.y) || surface.pixels().empty()) {
-    throw text::FileError(text::ErrorNumber::pictureNotMade);
+    throw text::FileError(text::ErrorNumber{480});
   }
   try {
     write(disk, surface, size, scratch);
@@ -69,7 +69,8 @@ void saveStretchedBmp(text::Disk& disk, const Surface& surface, Point size, cons
 }
 
 std::uint64_t stretchedBmpBytes(Point size) {
-  return bmpHeaders(1, 1).size() + std::uint64_t{bmpRowSize(size.x)} * static_cast<std::uint64_t>(size.y);
+  return bmpHeaders(1, 1).size() +
+         std::uint64_t{bmpRowSize(size.x)} * static_cast<std::uint64_t>(size.y);
 }
 
 }  // namespace norvik::graphics

@@ -14,8 +14,8 @@ inline constexpr int kMostPixels = 32767;
 
 /// Saves a surface, stretched to a size, as a BMP file of 24 bits, row by row: the picture is never
 /// in memory as a whole. A pixel is that of the surface which lies at its place. The file is made
-/// whole under the name `scratch` first and then takes the place of what has the name `path`, in one
-/// safe step. Throws FileError; pictureNotMade (480) for a size that no picture has. What stood
+/// whole under the name `scratch` first and then takes the place of what has the name `path`, in
+/// one safe step. Throws FileError; pictureNotMade (480) for a size that no picture has. What stood
 /// under the name stands as it was then, and nothing is left of the scratch file.
 void saveStretchedBmp(text::Disk& disk, const Surface& surface, Point size, const std::string& path,
                       const std::string& scratch);

@@ -12,8 +12,9 @@
 
 namespace norvik::obj {
 
-/// Goes over the FaceCount records of faces, groups and materials once: moves on with each group, gives each face the texture indexes
-/// of its vertices, draws it, and notes the coordinates of its vertices.
+/// Goes over the FaceCount records of faces, groups and materials once: moves on with each group,
+/// gives each face the texture indexes of its vertices, draws it, and notes the coordinates of its
+/// vertices.
 class FlatLayout {
  public:
   explicit FlatLayout(Workshop& workshop);

@@ -2,8 +2,8 @@
 
 #include "obj/name_side.h"
 #include "obj/rewrite_names.h"
-#include "workshop/reset.h"
 #include "text/line_writer.h"
+#include "workshop/reset.h"
 
 namespace norvik::obj {
 

@@ -21,11 +21,11 @@ struct NameSide {
   front::ListBox& colours;
   front::ListBox& renames;  ///< each old name, "*", new name; " NULL" drops the name
 
-  char letter;                   ///< lines that begin with it are of this side
-  std::string_view token;        ///< that a renamed line begins with
-  std::size_t nameColumn;        ///< where a line's name begins
-  std::string_view closeFirst;   ///< what an operator hears who leaves with `names` on show
-  std::string_view renamedFirst; ///< what one hears who saves names while others are renamed
+  char letter;                    ///< lines that begin with it are of this side
+  std::string_view token;         ///< that a renamed line begins with
+  std::size_t nameColumn;         ///< where a line's name begins
+  std::string_view closeFirst;    ///< what an operator hears who leaves with `names` on show
+  std::string_view renamedFirst;  ///< what one hears who saves names while others are renamed
 };
 
 NameSide groupSide(front::FormOBJ& form);

@@ -98,8 +98,7 @@ void rewriteNames(Workshop& workshop) {
   }
   session.disk.replace(merged, result);
   session.hourglass(false);
-  saveResult(session, result, source,
-             {"Save the mesh with its new names as", front::kMeshFilter});
+  saveResult(session, result, source, {"Save the mesh with its new names as", front::kMeshFilter});
 }
 
 }  // namespace norvik::obj

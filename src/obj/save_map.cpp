@@ -42,7 +42,7 @@ void save(Workshop& workshop, const Sheet& sheet) {
   front::Session& session = workshop.session;
   front::FormOBJ& form = workshop.form;
   const auto file = mapFile(workshop, sheet.size);
-  if (!file) throw text::FileError(text::ErrorNumber::pictureNotMade);
+  if (!file) throw text::FileError(text::ErrorNumber{480});
   session.hourglass(true);
   graphics::saveStretchedBmp(session.disk, sheet.picture.surface(), {file->pixels, file->pixels},
                              file->path, session.opening.inProgramFolder(kScratch));
@@ -79,8 +79,8 @@ std::optional<MapFile> mapFile(const Workshop& workshop, const front::TextBox& s
   front::FormOBJ& form = workshop.form;
   const std::string_view ending =
       &size == &form.TextMapSize ? mainSheet(form).ending : secondSheet(form).ending;
-  return MapFile{
-      text::throughFirstDot(workshop.session.opening.LabelOBJFileName.caption(), ending), *pixels};
+  return MapFile{text::throughFirstDot(workshop.session.opening.LabelOBJFileName.caption(), ending),
+                 *pixels};
 }
 
 void wireSaveMap(Workshop& workshop) {

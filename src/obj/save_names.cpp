@@ -87,8 +87,7 @@ void saveChosen(Workshop& workshop, const NameSide& side, const NameSide& other)
   }
   pass.finish();
   session.hourglass(false);
-  saveResult(session, result, proposal(source),
-             {"Save what was chosen as", front::kMeshFilter});
+  saveResult(session, result, proposal(source), {"Save what was chosen as", front::kMeshFilter});
   putSavingAway(workshop.form, side);
 }
 

@@ -6,9 +6,9 @@
 #include "mesh/mesh_store.h"
 #include "mesh/obj_number.h"
 #include "obj/map_sheet.h"
+#include "text/columns.h"
 #include "workshop/map_scale.h"
 #include "workshop/reading.h"
-#include "text/columns.h"
 
 namespace norvik::obj {
 
