@@ -104,8 +104,8 @@ class FormOBJ : public Form {
   TextBox TextMatRename{*this, "TextMatRename"};
   CheckBox CheckSaveGroups{*this, "CheckSaveGroups", "Save Groups"};
   CheckBox CheckSaveMaterials{*this, "CheckSaveMaterials", "Save Materials"};
-  ListBox ListGroupsSave{*this, "ListGroupsSave", Selection::multiple};
-  ListBox ListMaterialsSave{*this, "ListMaterialsSave", Selection::multiple};
+  ListBox ListGroupsSave{*this, "ListGroupsSave", Selection::ticks};
+  ListBox ListMaterialsSave{*this, "ListMaterialsSave", Selection::ticks};
 
   // Maps.
 

@@ -48,6 +48,8 @@ void Session::loadModal(Form& form) {
 void Session::unload(Form& form) {
   if (!form.loaded()) return;
   form.unloading.raise();
+  // A form that waited for the operator on leaving may have been left meanwhile.
+  if (!form.loaded()) return;
   form.setLoaded(false);
   front.unloaded(form);
   if (&form == &opening) front.endProcess();

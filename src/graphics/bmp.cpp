@@ -21,19 +21,22 @@ void append(std::string& bytes, std::size_t number, int size) {
   }
 }
 
-void appendHeaders(std::string& bytes, const Surface& surface, std::size_t pixelBytes) {
+}  // namespace
+
+std::string bmpHeaders(int width, int height) {
   constexpr int kShort = 2;
   constexpr int kLong = 4;
   constexpr std::size_t kPlanes = 1;
   constexpr std::size_t kBitsOfAPixel = 24;
-  bytes += "BM";
+  const std::size_t pixelBytes = bmpRowSize(width) * static_cast<std::size_t>(height);
+  std::string bytes = "BM";
   append(bytes, kHeaders + pixelBytes, kLong);
   append(bytes, 0, kLong);  // reserved
   append(bytes, kHeaders, kLong);
 
   append(bytes, kPictureHeader, kLong);
-  append(bytes, static_cast<std::size_t>(surface.width()), kLong);
-  append(bytes, static_cast<std::size_t>(surface.height()), kLong);
+  append(bytes, static_cast<std::size_t>(width), kLong);
+  append(bytes, static_cast<std::size_t>(height), kLong);
   append(bytes, kPlanes, kShort);
   append(bytes, kBitsOfAPixel, kShort);
   append(bytes, 0, kLong);  // uncompressed
@@ -42,17 +45,19 @@ void appendHeaders(std::string& bytes, const Surface& surface, std::size_t pixel
   append(bytes, 0, kLong);
   append(bytes, 0, kLong);  // colours of a table, none
   append(bytes, 0, kLong);
+  return bytes;
 }
 
-}  // namespace
+std::size_t bmpRowSize(int width) {
+  return (static_cast<std::size_t>(width) * kBytesOfAPixel + kRowUnit - 1) / kRowUnit * kRowUnit;
+}
 
 std::string bmpBytes(const Surface& surface) {
   const auto width = static_cast<std::size_t>(surface.width());
   const auto height = static_cast<std::size_t>(surface.height());
-  const std::size_t row = (width * kBytesOfAPixel + kRowUnit - 1) / kRowUnit * kRowUnit;
-  std::string bytes;
-  bytes.reserve(kHeaders + row * height);
-  appendHeaders(bytes, surface, row * height);
+  const std::size_t row = bmpRowSize(surface.width());
+  std::string bytes = bmpHeaders(surface.width(), surface.height());
+  bytes.reserve(bytes.size() + row * height);
   const auto pixels = surface.pixels();
   for (std::size_t y = height; y-- > 0;) {
     for (const std::uint32_t pixel : pixels.subspan(y * width, width)) {

@@ -40,6 +40,29 @@ void eachSide(std::span<const Point> corners, const Extent& extent, Take take) {
   }
 }
 
+/// Whether a polygon reaches no further than from a pixel to the next ones. Nearly all those of a
+/// large mesh are like that.
+bool isTiny(const Extent& extent) {
+  return extent.right - extent.left <= 1 && extent.bottom - extent.top <= 1;
+}
+
+/// Such a polygon is its corners: none of its sides passes over another pixel, and none lies
+/// within.
+void paintTiny(const Brush& brush, std::span<const Point> corners, const Extent& whole,
+               const Extent& within) {
+  for (std::int64_t row = within.top; row <= within.bottom; ++row) {
+    Run run{whole.right, whole.left};
+    for (const Point corner : corners) {
+      if (corner.y != row) continue;
+      run.first = std::min<std::int64_t>(run.first, corner.x);
+      run.last = std::max<std::int64_t>(run.last, corner.x);
+    }
+    run.first = std::max(run.first, within.left);
+    run.last = std::min(run.last, within.right);
+    if (run.first <= run.last) brush.paint(row, run);
+  }
+}
+
 /// A polygon of few sides; all that it needs is on the stack.
 class SmallPolygon {
  public:
@@ -113,8 +136,10 @@ class SmallPolygon {
 
 void paintPolygon(const Brush& brush, std::span<const Point> corners) {
   if (corners.empty()) return;
-  const Extent extent = clipped(extentOf(corners), brush);
+  const Extent whole = extentOf(corners);
+  const Extent extent = clipped(whole, brush);
   if (extent.left > extent.right || extent.top > extent.bottom) return;
+  if (isTiny(whole)) return paintTiny(brush, corners, whole, extent);
   if (corners.size() <= RowRuns::kMostSides) {
     SmallPolygon(corners, extent).paint(brush);
     return;

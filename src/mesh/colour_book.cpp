@@ -19,17 +19,6 @@ unsigned draw(std::mt19937& random) {
   return static_cast<unsigned>(kColours * fraction) + 1;
 }
 
-/// The three numbers behind an entry's first "*"; a part that no colour has is 0 or 255.
-front::Colour colourIn(std::string_view entry) {
-  std::string_view rest = text::after(entry, "*");
-  std::array<unsigned, 3> parts{};
-  for (unsigned& part : parts) {
-    part = static_cast<unsigned>(std::clamp(leadingNumber(text::before(rest, " ")), 0.0, kMost));
-    rest = text::holds(rest, " ") ? text::after(rest, " ") : std::string_view{};
-  }
-  return front::colourOf(parts[0], parts[1], parts[2]);
-}
-
 }  // namespace
 
 ColourBook::ColourBook(front::ListBox& entries) : entries_(entries) {
@@ -37,7 +26,7 @@ ColourBook::ColourBook(front::ListBox& entries) : entries_(entries) {
 }
 
 void ColourBook::note(std::string_view entry) {
-  colours_[std::string{text::before(entry, "*")}] = colourIn(entry);
+  colours_[std::string{text::before(entry, "*")}] = colourOfEntry(entry);
 }
 
 std::optional<front::Colour> ColourBook::find(std::string_view line) const {
@@ -56,6 +45,16 @@ front::Colour ColourBook::findOrDraw(std::string_view line, std::mt19937& random
   entries_.add(entry);
   note(entry);
   return front::colourOf(red, green, blue);
+}
+
+front::Colour colourOfEntry(std::string_view entry) {
+  std::string_view rest = text::after(entry, "*");
+  std::array<unsigned, 3> parts{};
+  for (unsigned& part : parts) {
+    part = static_cast<unsigned>(std::clamp(leadingNumber(text::before(rest, " ")), 0.0, kMost));
+    rest = text::holds(rest, " ") ? text::after(rest, " ") : std::string_view{};
+  }
+  return front::colourOf(parts[0], parts[1], parts[2]);
 }
 
 graphics::Material diffuseOf(front::Colour colour) {

@@ -41,6 +41,10 @@ class ColourBook {
   std::unordered_map<std::string, front::Colour, TextHash, std::equal_to<>> colours_;
 };
 
+/// The colour of an entry: the three numbers behind its first "*". A part that no colour has is 0
+/// or 255, and so is one that is not there.
+front::Colour colourOfEntry(std::string_view entry);
+
 /// A colour as the 3D view takes it.
 graphics::Material diffuseOf(front::Colour colour);
 

@@ -1,7 +1,9 @@
 #include "obj/leaving.h"
 
-#include "workshop/reset.h"
+#include "obj/name_side.h"
+#include "obj/rewrite_names.h"
 #include "text/line_writer.h"
+#include "workshop/reset.h"
 
 namespace norvik::obj {
 
@@ -26,8 +28,25 @@ void appendNote(Workshop& workshop) {
   workshop.form.TextNotes.setText({});
 }
 
+/// A list of names on show is to be closed first: one word, and then it is the operator's turn
+/// until it is.
+void waitForClosedLists(Workshop& workshop) {
+  front::FormOBJ& form = workshop.form;
+  for (const NameSide& side : {materialSide(form), groupSide(form)}) {
+    if (!side.names.visible()) continue;
+    workshop.session.front.messageBox(side.closeFirst, "Error!", front::kCritical);
+    while (side.names.visible()) workshop.session.front.waitForOperator();
+    return;
+  }
+}
+
 void leave(Workshop& workshop) {
-  // Renamed groups and materials are to be saved here, in front of the notes.
+  if (workshop.form.RenamesPending) {
+    waitForClosedLists(workshop);
+    // Whoever waited may find that the form was left, or reset, meanwhile.
+    if (!workshop.form.loaded()) return;
+    if (workshop.form.RenamesPending) rewriteNames(workshop);
+  }
   appendNote(workshop);
   ++workshop.departures;
   workshop.spin.SpinStopped = true;

@@ -31,6 +31,7 @@ std::string_view errorText(ErrorNumber number) {
     case ErrorNumber::pathNotFound:
       return "Path not found";
   }
+  if (number == ErrorNumber{480}) return "Picture cannot be made";
   return "Application-defined error";
 }
 

@@ -47,7 +47,17 @@
 #include "materials/material_coordinator.h"
 #include "workshop/fall_back_view.h"
 #include "workshop/hot_keys.h"
+#include "obj/apply_map.h"
 #include "obj/leaving.h"
+#include "obj/make_uv.h"
+#include "obj/mash.h"
+#include "obj/name_listing.h"
+#include "obj/rename_names.h"
+#include "obj/save_map.h"
+#include "obj/save_names.h"
+#include "obj/scaler.h"
+#include "obj/sec_map.h"
+#include "obj/uv_map.h"
 #include "workshop/open_workshop.h"
 #include "workshop/play.h"
 #include "workshop/reset.h"
@@ -143,6 +153,16 @@ void Workbench::wireTools() {
   obj::wireHotKeyList(workshop_);
   obj::wirePlay(workshop_);
   obj::wireLeaving(workshop_);
+  obj::wireNameListing(workshop_);
+  obj::wireRenaming(workshop_);
+  obj::wireSavingNames(workshop_);
+  obj::wireMakeUV(workshop_);
+  obj::wireUVMap(workshop_);
+  obj::wireSecMap(workshop_);
+  obj::wireSaveMap(workshop_);
+  obj::wireApplyMap(workshop_);
+  obj::wireMash(session_);
+  obj::wireScaler(session_);
   obj::wireSpin(workshop_);
   obj::wireViewKeys(workshop_);
   lifecycle::wireRecentFiles(session_);

@@ -59,10 +59,6 @@ class Hand {
   std::optional<Point> end_;
 };
 
-void closeMagnifier(front::Session& session) {
-  if (front::Form* magnifier = session.findForm("Magnifier")) session.unload(*magnifier);
-}
-
 void startToPlay(Workshop& workshop) {
   front::FormOBJ& form = workshop.form;
   workshop.session.load(form);
@@ -85,7 +81,7 @@ void hideFromBoss(Workshop& workshop, Covered& covered) {
     covered = {form.PictureZoom.visible(), form.PictureOBJViewer.visible(),
                form.PictureObjViewer2.visible()};
   }
-  closeMagnifier(workshop.session);
+  workshop.closeMagnifier();
   form.PictureZoom.hide();
   form.PictureOBJViewer.hide();
   form.PictureObjViewer2.hide();
@@ -109,7 +105,7 @@ void uncover(Workshop& workshop, const Covered& covered) {
 
 void play(Workshop& workshop) {
   front::FormOBJ& form = workshop.form;
-  closeMagnifier(workshop.session);
+  workshop.closeMagnifier();
   form.ImageBoss.hide();
   form.ImageRDS.hide();
   form.LabelBoss.setCaption("Boss Button");

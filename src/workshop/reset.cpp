@@ -18,8 +18,8 @@ constexpr auto kMapFiles = std::to_array<std::string_view>(
 void askForMesh(Workshop& workshop) {
   front::Session& session = workshop.session;
   front::Opening& opening = session.opening;
-  if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), "Open",
-                                  {"Open a mesh", front::kMeshFilter, {}})) {
+  if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), {},
+                                  {"Open a mesh", front::kMeshFilter})) {
     return;
   }
   opening.LabelOBJFileName.setCaption(opening.CommonDialog1.fileName());
@@ -38,6 +38,7 @@ void forgetMeshInView(Workshop& workshop) {
   workshop.mesh.clear();
   workshop.viewed = false;
   form.AddMode = false;
+  form.RenamesPending = false;
   form.MapDrawn = 0;
   form.MapSaved = 0;
   hideTools(form);

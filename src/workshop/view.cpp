@@ -36,6 +36,8 @@ void startRead(Workshop& workshop) {
 void forgetMesh(Workshop& workshop) {
   workshop.mesh.clear();
   workshop.viewed = false;
+  workshop.form.MapDrawn = 0;
+  workshop.form.MapSaved = 0;
   workshop.form.ListGroups.clear();
   workshop.form.ListMaterials.clear();
 }

@@ -47,19 +47,27 @@ front::PictureBox& Workshop::flatView(ViewMode mode) {
   return *form.flatViews().at(static_cast<std::size_t>(mode) - 1);
 }
 
-void Workshop::showChosenView() {
-  viewMode = chosenView();
+void Workshop::showAlone(const front::PictureBox& picture) {
   for (front::PictureBox* view : std::initializer_list<front::PictureBox*>{
            &form.PictureObjViewer2, &form.PictureOBJViewer, &form.PictureNoDX, &form.PictureUVMap,
            &form.PictureSecMap, &form.PictureZoom, &form.PictureStore, &form.PictureStore2,
            &form.PictureStore3}) {
-    view->setVisible(view == &flatView(viewMode));
+    view->setVisible(view == &picture);
   }
+}
+
+void Workshop::showChosenView() {
+  viewMode = chosenView();
+  showAlone(flatView(viewMode));
 }
 
 void Workshop::colourFaces(front::Colour colour) {
   fill = colour;
   spin.diffuse = diffuseOf(colour);
+}
+
+void Workshop::closeMagnifier() {
+  if (front::Form* magnifier = session.findForm("Magnifier")) session.unload(*magnifier);
 }
 
 void Workshop::setTitle(std::string_view path) {

@@ -47,12 +47,16 @@ class Workshop {
   ViewMode chosenView() const;
   /// The flat view of a mode.
   front::PictureBox& flatView(ViewMode mode);
-  /// Hides all views but the flat one of the mode that is chosen.
+  /// Shows one of the pictures that lie on one another, and hides the others.
+  void showAlone(const front::PictureBox& picture);
+  /// The same with the flat view of the mode that is chosen.
   void showChosenView();
   /// The colour of the faces that follow, in the flat views and in the 3D view.
   void colourFaces(front::Colour colour);
   /// Names a mesh in the window's title.
   void setTitle(std::string_view path);
+  /// Closes the magnifier, whose picture of the screen would not fit any more.
+  void closeMagnifier();
 
  private:
   void restoreStart();
