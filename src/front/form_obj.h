@@ -28,6 +28,11 @@ class FormOBJ : public Form {
   /// The flat views, in the order of the view's number: front, side, top.
   std::array<PictureBox*, 3> flatViews() { return {&PictureStore, &PictureStore2, &PictureStore3}; }
 
+  /// The pictures of a second mesh, in the same order.
+  std::array<PictureBox*, 3> overlays() {
+    return {&PictureAddObjFront, &PictureAddObjSide, &PictureAddObjTop};
+  }
+
   // What crosses the workshop's tools.
 
   bool ReadParamObj = false;    ///< the next read takes "\Param.obj"

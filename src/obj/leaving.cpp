@@ -1,7 +1,7 @@
 #include "obj/leaving.h"
 
-#include "workshop/reset.h"
 #include "text/line_writer.h"
+#include "workshop/reset.h"
 
 namespace norvik::obj {
 

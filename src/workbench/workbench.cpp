@@ -47,7 +47,13 @@
 #include "materials/material_coordinator.h"
 #include "workshop/fall_back_view.h"
 #include "workshop/hot_keys.h"
+#include "obj/add_mesh.h"
+#include "obj/extract_geometry.h"
 #include "obj/leaving.h"
+#include "obj/lop_box.h"
+#include "obj/merge.h"
+#include "obj/mirror.h"
+#include "obj/phi_lopper.h"
 #include "workshop/open_workshop.h"
 #include "workshop/play.h"
 #include "workshop/reset.h"
@@ -142,6 +148,12 @@ void Workbench::wireTools() {
   obj::wireReset(workshop_);
   obj::wireHotKeyList(workshop_);
   obj::wirePlay(workshop_);
+  obj::wireMirror(workshop_);
+  obj::wireAddMesh(workshop_);
+  obj::wireMerge(workshop_);
+  obj::wireLopBox(workshop_);
+  obj::wirePhiLopper(workshop_);
+  obj::wireExtractGeometry(session_);
   obj::wireLeaving(workshop_);
   obj::wireSpin(workshop_);
   obj::wireViewKeys(workshop_);
