@@ -181,7 +181,7 @@ void LopBox::LopIt(ViewMode view, const LopCorners& box, const std::string& scra
   const Waiting waiting(form_);
   session.hourglass(true);
   text::ignoringErrors([&] { session.disk.remove(scratch); });
-  LopPass(workshop_, view, box).write(scratch);
+  LopPass(workshop_, view, box).writeTo(scratch);
   session.hourglass(false);
 }
 

@@ -44,7 +44,7 @@ LopPass::LopPass(Workshop& workshop, ViewMode lopView, const LopCorners& box)
       scale_(workshop.form),
       fill_(workshop.fill) {}
 
-void LopPass::write(const std::string& path) {
+void LopPass::writeTo(const std::string& path) {
   text::LineWriter out(workshop_.session.disk, path);
   run(&out);
   out.close();
@@ -66,13 +66,13 @@ void LopPass::takeVertices() {
   for (RecordWalk walk(workshop_.session, kVertexFile, kVertexRecordLength); walk.next();) {
     const std::string_view record = text::trimmed(walk.record());
     vertices_.push_back(positionIn(record));
-    if (text::holds(record, "v")) write(record);
+    if (text::holds(record, "v")) print(record);
   }
 }
 
 void LopPass::writeTexturePoints() {
   for (RecordWalk walk(workshop_.session, kTextureFile, kTextureRecordLength); walk.next();) {
-    if (text::holds(walk.record(), "*")) write(texturePointLine(walk.record()));
+    if (text::holds(walk.record(), "*")) print(texturePointLine(walk.record()));
   }
 }
 
@@ -94,7 +94,7 @@ void LopPass::takeSource() {
 }
 
 void LopPass::take(const ObjLine& line) {
-  if (line.kind == LineKind::material) write(line.text);
+  if (line.kind == LineKind::material) print(line.text);
   if (line.kind == LineKind::face) takeFace(line.text);
 }
 
@@ -103,7 +103,7 @@ void LopPass::takeGroup(std::string_view line) {
   // In other colours nothing in the box tells a group.
   inList_ = workshop_.byGroups && colours_.holds(fill_);
   cutInGroup_ = false;
-  write(line);
+  print(line);
 }
 
 void LopPass::takeFace(std::string_view line) {
@@ -113,7 +113,7 @@ void LopPass::takeFace(std::string_view line) {
     inside = !indexes_.empty() && isInside(vertexAt(vertices_, indexes_.front()));
   }
   if (!inside) {
-    write(line);
+    print(line);
     return;
   }
   ++count_.faces;

@@ -32,7 +32,7 @@ class LopPass {
   LopPass& operator=(const LopPass&) = delete;
 
   /// Writes what is left.
-  void write(const std::string& path);
+  void writeTo(const std::string& path);
   /// Writes nothing: only marks and counts what would go.
   LopCount preview();
 
@@ -45,7 +45,7 @@ class LopPass {
   void takeGroup(std::string_view line);
   void takeFace(std::string_view line);
   bool isInside(const Position& at) const;
-  void write(std::string_view line) {
+  void print(std::string_view line) {
     if (out_ != nullptr) out_->line(line);
   }
 
