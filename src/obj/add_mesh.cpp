@@ -37,7 +37,7 @@ bool chooseMesh(Workshop& workshop, std::string& path) {
   front::Session& session = workshop.session;
   front::CommonDialog& dialog = session.opening.CommonDialog1;
   if (!dialog.open(session.front, session.disk.currentFolder(), "Open Secondary OBJ",
-                   {"Choose the mesh to add", front::kMeshFilter, {}})) {
+                   {{}, front::kMeshFilter})) {
     return false;
   }
   path = dialog.fileName();

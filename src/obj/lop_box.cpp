@@ -149,16 +149,28 @@ void LopBox::paint(ViewMode view, front::Mouse mouse) {
   workshop_.session.hourglass(false);
 }
 
+std::string counted(std::size_t count, std::string_view what) {
+  return std::to_string(count) + " " + std::string{what} + (count == 1 ? "" : "s");
+}
+
+/// What the operator sees below the question.
+std::string remarkOn(const LopCount& count) {
+  if (count.faces == 0) return "No face begins in this box.";
+  return counted(count.faces, "face") + " of " + counted(count.groups, "group") +
+         " would go, red in the views.";
+}
+
 /// Asks with what would go marked in the views. After a No they are as they were.
 bool LopBox::agreesToCut(ViewMode view, const LopCorners& box) {
   const StoredViews before(form_);
-  text::ignoringErrors([&] { LopPass(workshop_, view, box).preview(); });
+  LopCount count;
+  text::ignoringErrors([&] { count = LopPass(workshop_, view, box).preview(); });
   for (front::PictureBox* picture : form_.flatViews()) picture->refresh();
-  const bool yes =
-      workshop_.session.front.messageBox("Do you want to remove the mesh in this box?", "Alert!",
-                                         front::kYesNo) == front::Answer::yes;
+  const front::Caution remark(workshop_.session, remarkOn(count));
+  const auto answer = workshop_.session.front.messageBox(
+      "Do you want to remove the mesh in this box?", "Alert!", front::kYesNo);
   before.putBack();
-  return yes;
+  return answer == front::Answer::yes;
 }
 
 void LopBox::cut(ViewMode view, const LopCorners& box) {
@@ -189,8 +201,8 @@ void LopBox::save(const std::string& scratch) {
   front::Session& session = workshop_.session;
   front::CommonDialog& dialog = session.opening.CommonDialog2;
   const std::string& source = session.opening.LabelOBJFileName.caption();
-  if (!dialog.save(session.front, session.disk.currentFolder(), source, "Save As",
-                   {"Save the mesh without the part", front::kMeshFilter, {}})) {
+  if (!dialog.save(session.front, session.disk.currentFolder(), source, {},
+                   {"Save the mesh without the part", front::kMeshFilter})) {
     return;
   }
   const std::string target = dialog.fileName();

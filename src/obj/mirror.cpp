@@ -1,5 +1,6 @@
 #include "obj/mirror.h"
 
+#include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/obj_line.h"
 #include "mesh/record_walk.h"
@@ -53,14 +54,22 @@ void writeVertexLines(front::Session& session, const std::string& path, const Mi
   out.close();
 }
 
+bool isFace(std::string_view line) {
+  return text::begins(line, "f ") || text::begins(line, "f\t") || text::begins(line, "fo ");
+}
+
 void writeMesh(front::Session& session, const std::string& source, const std::string& vertexLines,
-               const std::string& result) {
+               const std::string& result, bool turn) {
   text::RewritePass pass(session.disk, source, result);
   text::LineReader vertices(session.disk, vertexLines);
   std::string buffer;
   while (!pass.in().atEnd()) {
     const std::string_view line = withoutTabs(pass.in().line(), buffer);
-    pass.out().line(text::begins(line, "v ") ? vertices.line() : line);
+    if (turn && isFace(line)) {
+      pass.out().line(turnedRound(line));
+    } else {
+      pass.out().line(text::begins(line, "v ") ? vertices.line() : line);
+    }
   }
   pass.finish();
 }
@@ -76,7 +85,9 @@ void mirror(Workshop& workshop) {
   text::keepApart(session.disk, source, vertexLines);
   session.hourglass(true);
   writeVertexLines(session, vertexLines, axes);
-  writeMesh(session, source, vertexLines, result);
+  // Across one axis, or all three, a face looks the other way.
+  const bool turned = (axes.x != axes.y) != axes.z;
+  writeMesh(session, source, vertexLines, result, turned && workshop.form.TurnFacesRound);
   session.hourglass(false);
   session.front.messageBox(
       source +
@@ -85,7 +96,7 @@ void mirror(Workshop& workshop) {
           "now be displayed, after saving.",
       "Note!", front::kOk);
   if (const auto saved =
-          saveResult(session, result, source, {"Save the mirrored mesh", front::kMeshFilter, {}})) {
+          saveResult(session, result, source, {"Save the mirrored mesh", front::kMeshFilter})) {
     opening.LabelOBJFileName.setCaption(*saved);
     workshop.setTitle(*saved);
   }
