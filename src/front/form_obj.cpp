@@ -74,6 +74,7 @@ void FormOBJ::restoreStart() {
   AddMode = false;
   RenamesPending = false;
   LopOn = false;
+  TurnFacesRound = false;
   MapDrawn = 0;
   MapSaved = 0;
   setState(WindowState::normal);

@@ -28,6 +28,11 @@ class FormOBJ : public Form {
   /// The flat views, in the order of the view's number: front, side, top.
   std::array<PictureBox*, 3> flatViews() { return {&PictureStore, &PictureStore2, &PictureStore3}; }
 
+  /// The pictures of a second mesh, in the same order.
+  std::array<PictureBox*, 3> overlays() {
+    return {&PictureAddObjFront, &PictureAddObjSide, &PictureAddObjTop};
+  }
+
   // What crosses the workshop's tools.
 
   bool ReadParamObj = false;    ///< the next read takes "\Param.obj"
@@ -35,8 +40,10 @@ class FormOBJ : public Form {
   bool AddMode = false;         ///< a second mesh is in view
   bool RenamesPending = false;  ///< groups or materials wait for the rewrite on leaving
   bool LopOn = false;           ///< the lop box is being drawn
-  int MapDrawn = 0;             ///< 1 when a template is on PictureUVMap
-  int MapSaved = 0;             ///< 1 when it is saved
+  /// A mirrored mesh has its faces turned round too, so that they look outwards again.
+  bool TurnFacesRound = false;
+  int MapDrawn = 0;  ///< 1 when a template is on PictureUVMap
+  int MapSaved = 0;  ///< 1 when it is saved
 
   // The views. Their surfaces have pixels while the form is loaded.
 

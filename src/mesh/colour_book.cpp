@@ -13,10 +13,24 @@ namespace {
 constexpr double kColours = 254;
 constexpr double kMost = 255;
 
-unsigned draw(std::mt19937& random) {
+unsigned drawPart(std::mt19937& random) {
   const double fraction = static_cast<double>(random() - std::mt19937::min()) /
                           (static_cast<double>(std::mt19937::max()) + 1);
   return static_cast<unsigned>(kColours * fraction) + 1;
+}
+
+front::Colour draw(std::mt19937& random) {
+  const unsigned red = drawPart(random);
+  const unsigned green = drawPart(random);
+  const unsigned blue = drawPart(random);
+  return front::colourOf(red, green, blue);
+}
+
+/// Five percent of either colour's number.
+bool areNear(front::Colour one, front::Colour other) {
+  constexpr front::Colour kShare = 20;
+  const auto [low, high] = std::minmax(one, other);
+  return (high - low) * kShare <= high;
 }
 
 }  // namespace
@@ -37,14 +51,20 @@ std::optional<front::Colour> ColourBook::find(std::string_view line) const {
 
 front::Colour ColourBook::findOrDraw(std::string_view line, std::mt19937& random) {
   if (const auto known = find(line)) return *known;
-  const unsigned red = draw(random);
-  const unsigned green = draw(random);
-  const unsigned blue = draw(random);
-  const std::string entry = std::string{line} + "*" + std::to_string(red) + " " +
-                            std::to_string(green) + " " + std::to_string(blue);
+  constexpr int kMostAnew = 100;
+  front::Colour colour = draw(random);
+  for (int anew = 0; anew < kMostAnew && isNearAnother(colour); ++anew) colour = draw(random);
+  const std::string entry = std::string{line} + "*" + std::to_string(graphics::redOf(colour)) +
+                            " " + std::to_string(graphics::greenOf(colour)) + " " +
+                            std::to_string(graphics::blueOf(colour));
   entries_.add(entry);
   note(entry);
-  return front::colourOf(red, green, blue);
+  return colour;
+}
+
+bool ColourBook::isNearAnother(front::Colour colour) const {
+  return std::any_of(colours_.begin(), colours_.end(),
+                     [colour](const auto& known) { return areNear(colour, known.second); });
 }
 
 front::Colour colourOfEntry(std::string_view entry) {

@@ -26,16 +26,21 @@ struct TextHash {
 /// blue with single blanks between them. A line's colour is that of the last entry whose text in
 /// front of its first "*" is the whole line, so that a line which holds a "*" never finds its own.
 /// Entries are found by a hash; the list itself stays the record.
+///
+/// The cut tells groups apart by their colours' numbers alone, so a new colour keeps its distance
+/// from those that are there, for as long as there is room.
 class ColourBook {
  public:
   explicit ColourBook(front::ListBox& entries);
 
   std::optional<front::Colour> find(std::string_view line) const;
-  /// The line's colour; one that has none draws each part from 1 to 254 and adds its entry.
+  /// The line's colour; one that has none draws each part from 1 to 254, anew up to a hundred times
+  /// while its number lies within five percent of another line's, and adds its entry.
   front::Colour findOrDraw(std::string_view line, std::mt19937& random);
 
  private:
   void note(std::string_view entry);
+  bool isNearAnother(front::Colour colour) const;
 
   front::ListBox& entries_;
   std::unordered_map<std::string, front::Colour, TextHash, std::equal_to<>> colours_;

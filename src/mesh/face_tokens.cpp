@@ -42,4 +42,18 @@ void readFaceTokens(std::string_view line, std::vector<std::size_t>& indexes) {
   }
 }
 
+std::string turnedRound(std::string_view line) {
+  const std::size_t head = std::min(line.find_first_of(" \t"), line.size());
+  std::string turned{line.substr(0, head)};
+  std::string_view rest = line.substr(head);
+  for (;;) {
+    const std::size_t last = rest.find_last_not_of(" \t");
+    if (last == rest.npos) return turned;
+    rest = rest.substr(0, last + 1);
+    const std::size_t before = rest.find_last_of(" \t");
+    turned.append(" ").append(rest.substr(before == rest.npos ? 0 : before + 1));
+    rest = rest.substr(0, before == rest.npos ? 0 : before);
+  }
+}
+
 }  // namespace norvik::obj

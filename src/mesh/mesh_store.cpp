@@ -15,10 +15,15 @@ std::string fresh(front::Session& session, std::string_view name) {
 
 }  // namespace
 
-MeshStore::MeshStore(front::Session& session)
-    : faces_(session.disk, fresh(session, kFaceFile), kFaceRecordLength),
-      texturePoints_(session.disk, fresh(session, kTextureFile), kTextureRecordLength),
-      vertices_(session.disk, fresh(session, kVertexFile), kVertexRecordLength) {}
+MeshStore::MeshStore(front::Session& session, MeshPlace place)
+    : MeshStore(session, place == MeshPlace::added
+                             ? Files{kAddedFaceFile, kAddedTextureFile, kAddedVertexFile}
+                             : Files{kFaceFile, kTextureFile, kVertexFile}) {}
+
+MeshStore::MeshStore(front::Session& session, const Files& files)
+    : faces_(session.disk, fresh(session, files.faces), kFaceRecordLength),
+      texturePoints_(session.disk, fresh(session, files.texturePoints), kTextureRecordLength),
+      vertices_(session.disk, fresh(session, files.vertices), kVertexRecordLength) {}
 
 void MeshStore::addTexturePoint(float u, float v) {
   record_.assign(text::numberText(u)).append("*").append(text::numberText(v));

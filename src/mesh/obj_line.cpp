@@ -16,6 +16,18 @@ ObjLine LineNormaliser::rewritten(LineKind kind, std::string_view start, std::st
   return {kind, rewritten_};
 }
 
+/// A line that begins "v" and is no texture point.
+ObjLine LineNormaliser::vertex(std::string_view line) {
+  constexpr std::size_t kFirstOfX = 3;
+  std::string_view rest = text::from(line, kFirstOfX);
+  const bool tab = text::begins(line, "v\t");
+  if (!tab && !text::begins(line, "v ")) return {LineKind::other, line};
+  const bool one = text::begins(rest, " ") && behindVertex_ == DoubleBlank::dropped;
+  if (one) rest.remove_prefix(1);
+  if (!tab && !one) return {LineKind::vertex, line};
+  return rewritten(LineKind::vertex, "v ", rest);
+}
+
 ObjLine LineNormaliser::operator()(std::string_view line) {
   using text::begins;
   using text::from;
@@ -26,11 +38,7 @@ ObjLine LineNormaliser::operator()(std::string_view line) {
     case 'v':
       if (begins(line, "vt\t")) return rewritten(LineKind::texturePoint, "vt ", from(line, 4));
       if (begins(line, "vt")) return {LineKind::texturePoint, line};
-      if (begins(line, "v  ") || begins(line, "v\t ")) {
-        return rewritten(LineKind::vertex, "v ", from(line, 4));
-      }
-      if (begins(line, "v\t")) return rewritten(LineKind::vertex, "v ", from(line, 3));
-      return {begins(line, "v ") ? LineKind::vertex : LineKind::other, line};
+      return vertex(line);
     case 'g':
       return {LineKind::group, line};
     case 'u':
@@ -47,6 +55,17 @@ ObjLine LineNormaliser::operator()(std::string_view line) {
     default:
       return {LineKind::other, line};
   }
+}
+
+std::string_view withoutTabs(std::string_view line, std::string& buffer) {
+  if (text::begins(line, " ")) line.remove_prefix(1);
+  for (const std::string_view start : {"v\t", "vt\t"}) {
+    if (!text::begins(line, start)) continue;
+    buffer.assign(line);
+    buffer[start.size() - 1] = ' ';
+    return buffer;
+  }
+  return line;
 }
 
 std::string_view groupName(std::string_view line) {

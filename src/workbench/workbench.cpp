@@ -45,31 +45,37 @@
 #include "lifecycle/start.h"
 #include "materials/material_colour.h"
 #include "materials/material_coordinator.h"
-#include "workshop/fall_back_view.h"
-#include "workshop/hot_keys.h"
+#include "obj/add_mesh.h"
 #include "obj/apply_map.h"
+#include "obj/extract_geometry.h"
 #include "obj/leaving.h"
+#include "obj/lop_box.h"
 #include "obj/make_uv.h"
 #include "obj/mash.h"
+#include "obj/merge.h"
+#include "obj/mirror.h"
 #include "obj/name_listing.h"
+#include "obj/phi_lopper.h"
 #include "obj/rename_names.h"
 #include "obj/save_map.h"
 #include "obj/save_names.h"
 #include "obj/scaler.h"
 #include "obj/sec_map.h"
 #include "obj/uv_map.h"
-#include "workshop/open_workshop.h"
-#include "workshop/play.h"
-#include "workshop/reset.h"
-#include "workshop/spin.h"
-#include "workshop/view.h"
-#include "workshop/view_keys.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_colours.h"
 #include "pose/mor_builder.h"
 #include "pose/pz2_editor.h"
 #include "pose/weld.h"
 #include "text/history.h"
+#include "workshop/fall_back_view.h"
+#include "workshop/hot_keys.h"
+#include "workshop/open_workshop.h"
+#include "workshop/play.h"
+#include "workshop/reset.h"
+#include "workshop/spin.h"
+#include "workshop/view.h"
+#include "workshop/view_keys.h"
 
 namespace norvik::workbench {
 
@@ -152,6 +158,12 @@ void Workbench::wireTools() {
   obj::wireReset(workshop_);
   obj::wireHotKeyList(workshop_);
   obj::wirePlay(workshop_);
+  obj::wireMirror(workshop_);
+  obj::wireAddMesh(workshop_);
+  obj::wireMerge(workshop_);
+  obj::wireLopBox(workshop_);
+  obj::wirePhiLopper(workshop_);
+  obj::wireExtractGeometry(session_);
   obj::wireLeaving(workshop_);
   obj::wireNameListing(workshop_);
   obj::wireRenaming(workshop_);

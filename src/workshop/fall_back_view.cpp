@@ -5,10 +5,10 @@
 #include "mesh/face_tokens.h"
 #include "mesh/fall_back_vertices.h"
 #include "mesh/obj_line.h"
-#include "workshop/reading.h"
 #include "mesh/vertex_text.h"
-#include "workshop/view_scale.h"
 #include "text/line_reader.h"
+#include "workshop/reading.h"
+#include "workshop/view_scale.h"
 
 #include <span>
 

@@ -19,6 +19,7 @@ MeshPass::MeshPass(Workshop& workshop, MeshStore* store)
 
 bool MeshPass::run(std::string_view path) {
   const auto departures = workshop_.departures;
+  workshop_.byGroups = workshop_.form.OptionColorGroups.value();
   text::LineReader in(workshop_.session.disk, path);
   while (!in.atEnd()) {
     const ObjLine line = normalise_(in.line());

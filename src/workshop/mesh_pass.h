@@ -3,11 +3,11 @@
 
 #include "mesh/colour_book.h"
 #include "mesh/face_pace.h"
-#include "workshop/face_views.h"
 #include "mesh/mesh_store.h"
 #include "mesh/name_list.h"
 #include "mesh/obj_line.h"
 #include "mesh/vertex_text.h"
+#include "workshop/face_views.h"
 
 #include <string_view>
 #include <vector>

@@ -3,10 +3,10 @@
 #include "mesh/exponent_repair.h"
 #include "mesh/mesh_store.h"
 #include "mesh/obj_number.h"
-#include "workshop/view_scale.h"
 #include "text/byte_reader.h"
 #include "text/columns.h"
 #include "text/number_text.h"
+#include "workshop/view_scale.h"
 
 namespace norvik::obj {
 

@@ -37,6 +37,7 @@ void forgetMeshInView(Workshop& workshop) {
   deleteMapFiles(workshop.session);
   workshop.mesh.clear();
   workshop.viewed = false;
+  workshop.byGroups = false;
   form.AddMode = false;
   form.RenamesPending = false;
   form.MapDrawn = 0;
@@ -52,6 +53,7 @@ void forgetMeshInView(Workshop& workshop) {
   }
   clearView(workshop);
   workshop.spin.SpinSpeed = 1;
+  workshop.forgotten.raise();
 }
 
 void Reset(Workshop& workshop) {
@@ -62,6 +64,12 @@ void Reset(Workshop& workshop) {
   } else {
     askForMesh(workshop);
   }
+}
+
+void viewAnew(Workshop& workshop) {
+  forgetMeshInView(workshop);
+  workshop.form.ReadAgain = true;
+  View(workshop);
 }
 
 void wireReset(Workshop& workshop) {

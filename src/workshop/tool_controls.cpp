@@ -18,7 +18,7 @@ void showTool(front::Control& control) {
 void showReadTools(front::FormOBJ& form) {
   for (front::Control* control :
        Controls{&form.LabelMakeUV, &form.LabelUVMap, &form.LabelViewCR2TexMap, &form.LabelApplyMap,
-                &form.TextNotes, &form.PictureLop, &form.PicturePhiLopper}) {
+                &form.TextNotes, &form.PictureAddOBJ, &form.PictureLop, &form.PicturePhiLopper}) {
     showTool(*control);
   }
 }
@@ -39,7 +39,8 @@ void hideTools(front::FormOBJ& form) {
                 &form.RichTextBoxGroups, &form.RichTextBoxMaterials, &form.LabelRichRename,
                 &form.ListGroups, &form.ListMaterials, &form.TextGrpRename, &form.TextMatRename,
                 &form.CheckSaveGroups, &form.CheckSaveMaterials, &form.ListGroupsSave,
-                &form.ListMaterialsSave}) {
+                &form.ListMaterialsSave, &form.PictureAddObjFront, &form.PictureAddObjSide,
+                &form.PictureAddObjTop}) {
     control->hide();
   }
 }

@@ -8,7 +8,8 @@ namespace norvik::obj {
 /// Puts a tool's control on view and in reach.
 void showTool(front::Control& control);
 
-/// The tools that come with a mesh: those of the maps, the notes, and the lop tools.
+/// The tools that come with a mesh: those of the maps, the notes, the second mesh, and the lop
+/// tools.
 void showReadTools(front::FormOBJ& form);
 
 /// Hides and disables all tools; the two list buttons stay on view.

@@ -2,18 +2,15 @@
 
 #include "figure/check_sgi.h"
 #include "mesh/low_mesh.h"
+#include "workshop/extents.h"
 #include "workshop/mesh_pass.h"
 #include "workshop/mesh_path.h"
 #include "workshop/morph_picture.h"
-#include "mesh/obj_number.h"
 #include "workshop/reading.h"
 #include "workshop/reset.h"
 #include "workshop/spin.h"
 #include "workshop/tool_controls.h"
-#include "text/columns.h"
-#include "text/number_text.h"
 
-#include <cmath>
 #include <utility>
 
 namespace norvik::obj {
@@ -46,26 +43,6 @@ void refreshFlatViews(front::FormOBJ& form) {
   for (front::PictureBox* view : form.flatViews()) view->refresh();
 }
 
-/// An extent of the mesh in view units.
-double inView(float extent, float pictureSize) {
-  constexpr double kDesignTwips = 15;
-  return static_cast<double>(extent) * static_cast<double>(pictureSize) * kDesignTwips /
-         kTwipsPerPixel;
-}
-
-void setExtent(front::Label& label, double extent) {
-  label.setCaption(text::trimmed(text::numberText(toSingle(extent))));
-}
-
-void setExtents(Workshop& workshop) {
-  front::FormOBJ& form = workshop.form;
-  const front::Box& picture = form.PictureObjViewer2.box();
-  setExtent(form.LabelBiggestX,
-            inView(workshop.mesh.BiggestX, picture.width) + static_cast<double>(picture.width) / 2);
-  setExtent(form.LabelSmallestX, std::fabs(inView(workshop.mesh.SmallestX, picture.width)));
-  setExtent(form.LabelBiggestY, inView(workshop.mesh.BiggestY, picture.height));
-}
-
 /// Whether the read came to its end.
 bool readInto(Workshop& workshop, const std::string& path) {
   const Reading reading(workshop);
@@ -79,7 +56,8 @@ bool readInto(Workshop& workshop, const std::string& path) {
   store.close();
   refreshFlatViews(workshop.form);
   workshop.viewed = true;
-  setExtents(workshop);
+  showExtents(workshop.form, workshop.mesh.BiggestX, workshop.mesh.SmallestX,
+              workshop.mesh.BiggestY);
   return true;
 }
 

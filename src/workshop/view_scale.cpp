@@ -62,4 +62,9 @@ graphics::Point ViewScale::topPoint(const Position& at) const {
           toPixel(height / kShare * (static_cast<double>(at.z) * FactorY) + height / 2)};
 }
 
+int ViewScale::lopTopRow(const Position& at) const {
+  const double z = static_cast<double>(at.z) * FactorY;
+  return toPixel(z < 0 ? -z * (width / kShare) - width / 2 : width / kShare * z + width / 2);
+}
+
 }  // namespace norvik::obj

@@ -5,6 +5,8 @@
 #include "graphics/surface.h"
 #include "mesh/mesh.h"
 
+#include <array>
+
 namespace norvik::obj {
 
 /// Twips to a pixel of every screen that the program meets.
@@ -24,10 +26,22 @@ struct ViewScale {
   double width;  ///< of PictureObjViewer2, in pixels
   double height;
 
-  // Where the first corner of a face goes, which has formulas of its own.
+  /// Where a corner of a face goes in front, side and top.
+  std::array<graphics::Point, 3> points(const Position& at) const {
+    return {frontPoint(at), sidePoint(at), topPoint(at)};
+  }
+  /// Where its first corner goes, which has formulas of its own.
+  std::array<graphics::Point, 3> firstPoints(const Position& at) const {
+    return {firstFrontPoint(at), firstSidePoint(at), firstTopPoint(at)};
+  }
+
   graphics::Point firstFrontPoint(const Position& at) const;
   graphics::Point firstSidePoint(const Position& at) const;
   graphics::Point firstTopPoint(const Position& at) const;
+
+  /// The row of the top view in which the cut looks for a vertex: that of its place, unless it lies
+  /// behind the middle.
+  int lopTopRow(const Position& at) const;
 
   graphics::Point frontPoint(const Position& at) const;
   graphics::Point sidePoint(const Position& at) const;

@@ -24,6 +24,7 @@ void Workshop::restoreStart() {
   viewMode = ViewMode::front;
   Suppress = false;
   viewed = false;
+  byGroups = false;
   fill = front::kBlack;
   fillWithout3D = front::kBlack;
   playing = false;

@@ -32,11 +32,15 @@ class Workshop {
   bool Suppress = false;  ///< a read does not show its flat view before its end
   bool reading = false;   ///< a read or refresh is under way: another one does not begin
   bool viewed = false;    ///< a mesh was read to its end
-  front::Colour fill = front::kBlack;           ///< of the polygons in the flat views
+  front::Colour fill = front::kBlack;  ///< of the polygons in the flat views
+  bool byGroups = false;               ///< the flat views were drawn in the groups' colours
   front::Colour fillWithout3D = front::kBlack;  ///< of those in PictureNoDX
   bool playing = false;                         ///< the form has only its two playthings on show
   std::uint64_t departures = 0;  ///< how often the form was left, for a read that meets it midway
   Spin spin;
+
+  /// The mesh in view is forgotten: what tools keep beside it goes too.
+  front::Event<> forgotten{form};
 
   /// Where the colours of new groups and materials come from. Seeded anew when the form is loaded,
   /// so that a mesh looks the same whenever it is the first one.

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 namespace norvik::obj {
@@ -93,6 +94,25 @@ TEST_F(ColourBookTest, DrawsTheSameColoursFromTheSameSeed) {
     second.findOrDraw(line, again);
   }
   EXPECT_EQ(list.items(), other.ListGroupColors.items());
+}
+
+TEST_F(ColourBookTest, KeepsTheColoursOfAFewGroupsApart) {
+  constexpr unsigned kSeeds = 200;
+  constexpr int kGroups = 10;
+  for (unsigned seed = 0; seed < kSeeds; ++seed) {
+    list.clear();
+    random.seed(seed);
+    ColourBook book(list);
+    std::vector<double> numbers;
+    for (int i = 0; i < kGroups; ++i) {
+      const double number = book.findOrDraw("g " + std::to_string(i), random);
+      for (const double other : numbers) {
+        const double apart = number > other ? number - other : other - number;
+        EXPECT_GT(apart, 0.05 * std::max(number, other)) << seed;
+      }
+      numbers.push_back(number);
+    }
+  }
 }
 
 TEST_F(ColourBookTest, GivesThe3DViewItsShareOf255) {

@@ -74,5 +74,12 @@ TEST(FaceTokens, EndWithTheRecord) {
   EXPECT_EQ(found[124], 12U);
 }
 
+TEST(TurnedRound, HasTheCornersInTheOppositeOrder) {
+  EXPECT_EQ(turnedRound("f 1/2/3 4//5 6"), "f 6 4//5 1/2/3");
+  EXPECT_EQ(turnedRound("f\t1  2 3 "), "f 3 2 1");
+  EXPECT_EQ(turnedRound("fo 1 2"), "fo 2 1");
+  EXPECT_EQ(turnedRound("f "), "f");
+}
+
 }  // namespace
 }  // namespace norvik::obj

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace norvik::obj {
 namespace {
@@ -89,6 +91,33 @@ TEST(ObjName, IsCutAtItsColumnWhateverTheWord) {
   EXPECT_EQ(materialName("usemap foo"), "foo");
   EXPECT_EQ(materialName("use skin"), "n");
   EXPECT_EQ(materialName("use"), "");
+}
+
+TEST(ObjLine, KeepsTwoBlanksBehindAVertexWhereAToolWantsThem) {
+  LineNormaliser normalise(LineNormaliser::DoubleBlank::kept);
+  for (const auto& [line, wanted] : std::vector<std::pair<std::string, std::string>>{
+           {" v  1 2 3", "v  1 2 3"}, {"v\t 1 2 3", "v  1 2 3"}, {"v\t1", "v 1"}, {"v 1", "v 1"}}) {
+    const ObjLine read = normalise(line);
+    EXPECT_EQ(read.kind, LineKind::vertex) << line;
+    EXPECT_EQ(read.text, wanted) << line;
+  }
+  EXPECT_EQ(normalise("vn 1").kind, LineKind::other);
+}
+
+TEST(ObjLine, LosesABlankAndTheTabsOfVertices) {
+  std::string buffer;
+  for (const auto& [line, wanted] :
+       std::vector<std::pair<std::string, std::string>>{{" v\t1\t2", "v 1\t2"},
+                                                        {"vt\t1", "vt 1"},
+                                                        {"  v 1", " v 1"},
+                                                        {"vn\t1", "vn\t1"},
+                                                        {"f\t1", "f\t1"},
+                                                        {"fo 1", "fo 1"},
+                                                        {"", ""},
+                                                        {" ", ""},
+                                                        {"v", "v"}}) {
+    EXPECT_EQ(withoutTabs(line, buffer), wanted) << line;
+  }
 }
 
 }  // namespace
