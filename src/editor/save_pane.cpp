@@ -16,9 +16,10 @@ constexpr std::array kSides{Side::left, Side::right};
 
 /// A save under another name does not change the pane's own.
 void savePane(front::Session& session, FormEditor& form, Side side) {
-  const front::DialogWords words{"Save the text of the pane", {}, {}};
-  if (!form.CommonDialog1.save(session.front, session.disk.currentFolder(), form.path(side),
-                               "Save As", words)) {
+  const front::DialogWords words{side == Side::left ? "Save the text of the left pane"
+                                                    : "Save the text of the right pane"};
+  if (!form.CommonDialog1.save(session.front, session.disk.currentFolder(), form.path(side), {},
+                               words)) {
     return;
   }
   writeText(session, form.page(side).content(), form.CommonDialog1.fileName());

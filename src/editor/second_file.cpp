@@ -32,8 +32,8 @@ void openSecondFile(front::Session& session, FormEditor& form) {
     form.setFocus(form.ListMRU);
     return;
   }
-  const front::DialogWords words{"Open a second file", {}, {}};
-  if (!form.CommonDialogOpen.open(session.front, session.disk.currentFolder(), "Open", words)) {
+  const front::DialogWords words{"Open a second file"};
+  if (!form.CommonDialogOpen.open(session.front, session.disk.currentFolder(), {}, words)) {
     return;
   }
   form.ListMRU.hide();

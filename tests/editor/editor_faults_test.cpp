@@ -67,13 +67,12 @@ std::string caseName(const testing::TestParamInfo<Case>& info) {
   return std::get<0>(info.param).name + std::get<1>(info.param).name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Editor, EditorFaultsTest,
-                         testing::Combine(testing::Values(saving("InPlace", "a.txt"),
-                                                          saving("OverAnother", "other.txt"),
-                                                          saving("NewName", "new.txt"), leaving(),
-                                                          savingNotes()),
-                                          testing::ValuesIn(allHostFaults())),
-                         caseName);
+INSTANTIATE_TEST_SUITE_P(
+    Editor, EditorFaultsTest,
+    testing::Combine(testing::Values(saving("InPlace", "a.txt"), saving("OverAnother", "other.txt"),
+                                     saving("NewName", "new.txt"), leaving(), savingNotes()),
+                     testing::ValuesIn(allHostFaults())),
+    caseName);
 
 }  // namespace
 

@@ -171,8 +171,8 @@ std::vector<std::size_t> hitsIn(const std::string& bytes, std::string wanted,
     std::transform(wanted.begin(), wanted.end(), wanted.begin(), fold);
   }
   const auto ofWord = [&](std::size_t at) {
-    return at < bytes.size() && (std::isalnum(static_cast<unsigned char>(bytes[at])) != 0 ||
-                                 bytes[at] == '_');
+    return at < bytes.size() &&
+           (std::isalnum(static_cast<unsigned char>(bytes[at])) != 0 || bytes[at] == '_');
   };
   std::vector<std::size_t> hits;
   std::size_t at = 0;
