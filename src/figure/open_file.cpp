@@ -62,6 +62,7 @@ void openFile(front::Session& session) {
   } else if (kind == FileKind::mtl) {
     CheckSGI(session, opening.OpenedPath);
     opening.LabelFileNameForEditor.setCaption(opening.OpenedPath);
+    session.routines.OpenInEditor();
   }
 }
 

@@ -100,6 +100,8 @@ class FrontEnd {
   /// Shows a loaded form, calls back once it is on view, and returns when it has been unloaded.
   virtual void showModal(Form& form, const std::function<void()>& shown) = 0;
   virtual void unloaded(Form& form) = 0;
+  /// Brings a form that is on view in front of the others.
+  virtual void bringToFront(Form&) {}
   virtual Screen screen() const = 0;
 
   /// Draws the closing animation's tile with its corner at a place of the form, in pixels. False

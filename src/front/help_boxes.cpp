@@ -6,12 +6,6 @@ namespace norvik::front {
 
 namespace {
 
-struct HelpBox {
-  std::string_view control;
-  std::string_view title;
-  std::string_view text;
-};
-
 constexpr std::array kHelpBoxes = std::to_array<HelpBox>({
     {"LabelOpenSource", "Information", "Click this button to open a source file."},
     {"PictureCopyToDest", "Information",
@@ -44,16 +38,21 @@ constexpr std::array kHelpBoxes = std::to_array<HelpBox>({
      "Choose a material and doubleclick here to change the material color."},
     {"PictureMatHiLite", "Note!",
      "Choose a material and doubleclick here to change the material highlight color."},
+    {"TextOpeningNotes", "Info", "Doubleclick to hide this notepad."},
 });
 
 }  // namespace
 
-void wireHelpBoxes(Session& session) {
-  for (const HelpBox& box : kHelpBoxes) {
-    session.opening.find(box.control)->released.add([&session, &box](Mouse mouse) {
+void hangHelpBoxes(Session& session, Form& form, std::span<const HelpBox> boxes) {
+  for (const HelpBox& box : boxes) {
+    form.find(box.control)->released.add([&session, &box](Mouse mouse) {
       if (mouse.button == MouseButton::right) session.front.messageBox(box.text, box.title, kOk);
     });
   }
+}
+
+void wireHelpBoxes(Session& session) {
+  hangHelpBoxes(session, session.opening, kHelpBoxes);
 }
 
 }  // namespace norvik::front

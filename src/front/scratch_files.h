@@ -25,6 +25,7 @@ inline constexpr auto kScratchFiles = std::to_array<std::string_view>({
     "\\secmapsave.txt",
     "\\Param.obj",
     "\\cr2.doc",
+    "\\Edit.tmp",
 });
 
 /// Those of a mesh, which a run that died may have left.

@@ -4,9 +4,7 @@
 
 namespace norvik::front {
 
-namespace {
-
-void scale(Form& form, float x, float y) {
+void scaleForm(Form& form, float x, float y) {
   const Box old = form.box();
   form.setBox({0, 0, old.width * x, old.height * y});
   form.setFontSize(form.fontSize() * x);
@@ -20,8 +18,6 @@ void scale(Form& form, float x, float y) {
   }
 }
 
-}  // namespace
-
 void ResizeFormToScreen(Session& session, Form& form) {
   if (form.state() != WindowState::normal) return;
   Opening& opening = session.opening;
@@ -29,14 +25,14 @@ void ResizeFormToScreen(Session& session, Form& form) {
   const Box old = form.box();
   opening.ScreenScaleX = screen.width / old.width;
   opening.ScreenScaleY = screen.height / old.height;
-  scale(form, opening.ScreenScaleX, opening.ScreenScaleY);
+  scaleForm(form, opening.ScreenScaleX, opening.ScreenScaleY);
   form.setState(WindowState::maximised);
 }
 
 void scaleToScreen(Session& session, Form& form) {
   const Screen screen = session.front.screen();
   const float ratio = std::min(screen.width / form.box().width, screen.height / form.box().height);
-  if (ratio > 0) scale(form, ratio, ratio);
+  if (ratio > 0) scaleForm(form, ratio, ratio);
 }
 
 float scaledLeft(const Opening& opening, float left) {

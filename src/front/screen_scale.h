@@ -5,6 +5,10 @@
 
 namespace norvik::front {
 
+/// Puts a form at the corner of the screen and multiplies its size and font, and its controls'
+/// places, sizes and fonts.
+void scaleForm(Form& form, float x, float y);
+
 /// Multiplies a form in the normal window state, its controls and their fonts to the size of the
 /// screen, keeps the ratios in the main form's ScreenScaleX and ScreenScaleY, and maximises it.
 void ResizeFormToScreen(Session& session, Form& form);

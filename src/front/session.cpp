@@ -33,7 +33,10 @@ void Session::prepare(Form& form) {
 }
 
 void Session::load(Form& form) {
-  if (form.loaded()) return;
+  if (form.loaded()) {
+    front.bringToFront(form);
+    return;
+  }
   prepare(form);
   front.show(form);
   form.shown.raise();

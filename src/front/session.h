@@ -21,6 +21,8 @@ class Session;
 struct Routines {
   /// Fills ListChannels with the channels of the pane's file; takes the path that was opened.
   std::function<void(const std::string& path)> ViewChannels;
+  /// Has the manual editor show the file that LabelFileNameForEditor names.
+  std::function<void()> OpenInEditor;
 };
 
 /// A finished scratch file, and the figure that it was made from. Both are system paths.
@@ -56,8 +58,8 @@ class Session {
   const std::vector<Form*>& forms() const { return forms_; }
   Form* findForm(std::string_view name) const;
 
-  /// Shows a form that is not loaded yet. An error of its loading leaves it unloaded; one of what
-  /// follows its showing leaves it on view.
+  /// Shows a form that is not loaded yet; one that is only comes to the front. An error of its
+  /// loading leaves it unloaded; one of what follows its showing leaves it on view.
   void load(Form& form);
   /// The same; returns when the form was unloaded. An error of what follows its showing is told
   /// while the form stands.

@@ -22,6 +22,19 @@ void orRefuse(const std::function<void()>& step) {
   }
 }
 
+struct CaretPlace {
+  std::size_t position;
+  std::size_t length;
+};
+
+/// Takes "POS" or "POS LEN" off the line, in a text of that size.
+CaretPlace caretPlace(ScriptLine& line, std::size_t textSize) {
+  const int size = static_cast<int>(textSize);
+  const int position = within(wholeNumber(line.word()), 0, size);
+  const int length = line.hasMore() ? within(wholeNumber(line.word()), 0, size - position) : 0;
+  return {static_cast<std::size_t>(position), static_cast<std::size_t>(length)};
+}
+
 }  // namespace
 
 Commands::Commands(workbench::Workbench& workbench, ScriptFrontEnd& front, Transcript& transcript,
@@ -257,11 +270,16 @@ void Commands::addInput() {
     acts_.setSlider(slider, within(wholeNumber(line.word()), slider.least(), slider.most()));
   });
   add("caret", 3, [this](ScriptLine& line) {
-    auto& box = reachAs<front::TextBox>(line.word(), "text control");
-    const int size = static_cast<int>(box.text().size());
-    const int position = within(wholeNumber(line.word()), 0, size);
-    const int length = line.hasMore() ? within(wholeNumber(line.word()), 0, size - position) : 0;
-    acts_.placeCaret(box, static_cast<std::size_t>(position), static_cast<std::size_t>(length));
+    const std::string name = line.word();
+    auto* pane = dynamic_cast<front::TextPane*>(&reach(name));
+    if (pane != nullptr) {
+      const CaretPlace place = caretPlace(line, pane->content().size());
+      acts_.placeCaret(*pane, place.position, place.length);
+    } else {
+      auto& box = reachAs<front::TextBox>(name, "text control");
+      const CaretPlace place = caretPlace(line, box.text().size());
+      acts_.placeCaret(box, place.position, place.length);
+    }
   });
 }
 
@@ -274,6 +292,8 @@ void Commands::type(ScriptLine& line) {
     if (!acts_.pick(*drives, text)) throw Refused{"no drive '" + text + "'"};
   } else if (auto* box = dynamic_cast<front::TextBox*>(&control); box != nullptr) {
     acts_.type(*box, text);
+  } else if (auto* pane = dynamic_cast<front::TextPane*>(&control); pane != nullptr) {
+    acts_.type(*pane, text);
   } else {
     throw Refused{control.name() + " is no text control"};
   }

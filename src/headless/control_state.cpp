@@ -5,6 +5,7 @@
 #include "front/list_box.h"
 #include "front/picture_box.h"
 #include "front/rich_text.h"
+#include "front/text_pane.h"
 #include "front/timer.h"
 #include "graphics/crc32.h"
 #include "text/columns.h"
@@ -12,6 +13,14 @@
 namespace norvik::headless {
 
 namespace {
+
+front::Colour lineColour(const front::RichTextBox& page, std::size_t line) {
+  return page.lineColour(line);
+}
+
+front::Colour lineColour(const front::TextPane& page, std::size_t) {
+  return page.fore();
+}
 
 class PropertyList {
  public:
@@ -39,10 +48,11 @@ class PropertyList {
     for (const int value : values) digits.push_back(std::to_string(value));
     list(name, digits, [](std::string_view text) { return std::string{text}; });
   }
-  void colours(std::string_view name, const front::RichTextBox& page) {
+  template <typename Page>
+  void colours(std::string_view name, const Page& page) {
     std::vector<std::string> triples;
     for (std::size_t line = 0; line < page.lineCount(); ++line) {
-      const front::Colour colour = page.lineColour(line);
+      const front::Colour colour = lineColour(page, line);
       triples.push_back("[" + std::to_string(graphics::redOf(colour)) + "," +
                         std::to_string(graphics::greenOf(colour)) + "," +
                         std::to_string(graphics::blueOf(colour)) + "]");
@@ -118,6 +128,12 @@ std::vector<Property> propertiesOf(const front::Control& control) {
   if (const auto* page = dynamic_cast<const front::RichTextBox*>(&control)) {
     list.colours("colours", *page);
   }
+  if (const auto* pane = dynamic_cast<const front::TextPane*>(&control)) {
+    list.text("text", pane->text());
+    list.whole("start", static_cast<long long>(pane->caret()));
+    list.whole("length", static_cast<long long>(pane->selectionLength()));
+    list.colours("colours", *pane);
+  }
   if (const auto* option = dynamic_cast<const front::OptionButton*>(&control)) {
     list.boolean("value", option->value());
   }
@@ -152,6 +168,8 @@ bool putProperty(front::Control& control, std::string_view name, const std::stri
     captioned->setCaption(value);
   } else if (auto* box = dynamic_cast<front::TextBox*>(&control); box && name == "text") {
     box->setText(value);
+  } else if (auto* pane = dynamic_cast<front::TextPane*>(&control); pane && name == "text") {
+    pane->setContent(text::LongText(value));
   } else if (auto* list = dynamic_cast<front::ListBox*>(&control); list && name == "items") {
     list->clear();
     for (const std::string& item : text::parts(value, '|')) list->add(item);

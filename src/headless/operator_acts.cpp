@@ -75,6 +75,11 @@ void OperatorActs::type(front::TextBox& box, const std::string& text) {
   deliver(box.changed);
 }
 
+void OperatorActs::type(front::TextPane& pane, const std::string& text) {
+  pane.setContent(text::LongText(text));
+  deliver(pane.changed);
+}
+
 bool OperatorActs::walk(front::FolderList& folders, const std::string& path) {
   if (!front::walkTo(session_.disk, folders, path)) return false;
   deliver(folders.changed);
@@ -104,6 +109,11 @@ void OperatorActs::setSlider(front::Slider& slider, int value) {
 void OperatorActs::placeCaret(front::TextBox& box, std::size_t position, std::size_t length) {
   box.setCaret(position, length);
   deliver(box.caretMoved);
+}
+
+void OperatorActs::placeCaret(front::TextPane& pane, std::size_t position, std::size_t length) {
+  pane.setCaret(position, length);
+  deliver(pane.caretMoved);
 }
 
 void OperatorActs::press(front::Control& control, Mouse mouse) {

@@ -3,6 +3,7 @@
 
 #include "front/file_lists.h"
 #include "front/session.h"
+#include "front/text_pane.h"
 
 #include <string>
 #include <vector>
@@ -36,6 +37,7 @@ class OperatorActs {
 
   /// Replaces the text as a paste by mouse does; the caret stands at the start afterwards.
   void type(front::TextBox& box, const std::string& text);
+  void type(front::TextPane& pane, const std::string& text);
   /// Walks to a folder, or picks a drive; false, and nothing done, if it is not there.
   bool walk(front::FolderList& folders, const std::string& path);
   bool pick(front::DriveList& drives, const std::string& drive);
@@ -43,6 +45,7 @@ class OperatorActs {
   void key(front::Form& form, const std::string& key);
   void setSlider(front::Slider& slider, int value);
   void placeCaret(front::TextBox& box, std::size_t position, std::size_t length);
+  void placeCaret(front::TextPane& pane, std::size_t position, std::size_t length);
 
   void press(front::Control& control, front::Mouse mouse);
   void move(front::Control& control, front::Mouse mouse);

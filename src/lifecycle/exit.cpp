@@ -1,10 +1,10 @@
 #include "lifecycle/exit.h"
 
 #include "figure/save.h"
+#include "front/note_entry.h"
 #include "front/recent_files.h"
 #include "front/scratch_files.h"
 #include "lifecycle/closing_animation.h"
-#include "text/line_writer.h"
 
 namespace norvik::lifecycle {
 
@@ -15,12 +15,7 @@ namespace {
 void appendNote(front::Session& session) {
   const std::string& note = session.opening.TextOpeningNotes.text();
   if (note.empty()) return;
-  text::LineWriter file(session.disk, session.opening.inProgramFolder("Notes.txt"),
-                        text::LineWriter::Mode::append);
-  file.line("**** " + session.front.now(), " ****");
-  file.line("**  **");
-  file.line(note);
-  file.close();
+  front::appendNoteEntry(session, session.opening.inProgramFolder("Notes.txt"), {}, note);
 }
 
 /// Forms that say or ask something on leaving do so in this order; the others follow.

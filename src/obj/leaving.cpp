@@ -1,30 +1,24 @@
 #include "obj/leaving.h"
 
+#include "front/note_entry.h"
 #include "obj/name_side.h"
 #include "obj/rewrite_names.h"
-#include "text/line_writer.h"
 #include "workshop/reset.h"
 
 namespace norvik::obj {
 
 namespace {
 
-constexpr std::string_view kNoteFile = "\\Notes.txt";
-
 /// Makes the file if there is none, whether there is a note or not.
 void appendNote(Workshop& workshop) {
   front::Session& session = workshop.session;
-  const std::string path = session.opening.inProgramFolder(kNoteFile);
+  const std::string path = session.opening.inProgramFolder(front::kNoteFile);
   const std::string& note = workshop.form.TextNotes.text();
   if (note.empty()) {
     text::ignoringErrors([&] { session.disk.openForAppending(path); });
     return;
   }
-  text::LineWriter file(session.disk, path, text::LineWriter::Mode::append);
-  file.line("**** " + session.front.now(), " ****");
-  file.line("** " + session.opening.LabelOBJFileName.caption(), " **");
-  file.line(note);
-  file.close();
+  front::appendNoteEntry(session, path, session.opening.LabelOBJFileName.caption(), note);
   workshop.form.TextNotes.setText({});
 }
 

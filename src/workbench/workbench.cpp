@@ -24,6 +24,8 @@
 #include "channels/mirror/mirror.h"
 #include "channels/removal/trash.h"
 #include "channels/renaming/rename.h"
+#include "editor/manual_editor.h"
+#include "editor/notes.h"
 #include "erc/change_ratio.h"
 #include "erc/link_builder.h"
 #include "erc/ratio_listing.h"
@@ -92,6 +94,9 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formPZ2_);
   session_.addForm(formMOR_);
   session_.addForm(formPZ2Combine_);
+  session_.addForm(formEditor_);
+  session_.addForm(formNotes_);
+  session_.addForm(formHole_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -177,6 +182,10 @@ void Workbench::wireTools() {
   obj::wireScaler(session_);
   obj::wireSpin(workshop_);
   obj::wireViewKeys(workshop_);
+  editor::wireManualEditor(session_, formEditor_);
+  editor::wireNotepad(session_);
+  editor::wireFormNotes(session_, formNotes_);
+  editor::wireFormHole(session_, formHole_, formObj_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);

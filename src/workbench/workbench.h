@@ -3,6 +3,8 @@
 
 #include "builders/phi/form_phi.h"
 #include "builders/phi/form_tree.h"
+#include "editor/form_editor.h"
+#include "editor/form_notes.h"
 #include "erc/dialog_erc.h"
 #include "erc/form_ecm.h"
 #include "erc/form_list_emcs.h"
@@ -47,6 +49,9 @@ class Workbench {
   pose::FormPZ2 formPZ2_;
   pose::FormMOR formMOR_;
   pose::FormPZ2Combine formPZ2Combine_;
+  editor::FormEditor formEditor_;
+  editor::FormNotes formNotes_;
+  editor::FormHole formHole_;
   front::Session session_;
   obj::Workshop workshop_;
 };
