@@ -39,6 +39,11 @@ void scaleToScreen(Session& session, Form& form) {
   if (ratio > 0) scale(form, ratio, ratio);
 }
 
+void stretchToScreen(Session& session, Form& form) {
+  const Screen screen = session.front.screen();
+  scale(form, screen.width / form.box().width, screen.height / form.box().height);
+}
+
 float scaledLeft(const Opening& opening, float left) {
   return opening.ScreenScaleX == 0 ? left : opening.ScreenScaleX * left;
 }
