@@ -24,6 +24,7 @@
 #include "channels/mirror/mirror.h"
 #include "channels/removal/trash.h"
 #include "channels/renaming/rename.h"
+#include "dials/renamer.h"
 #include "erc/change_ratio.h"
 #include "erc/link_builder.h"
 #include "erc/ratio_listing.h"
@@ -45,21 +46,25 @@
 #include "lifecycle/start.h"
 #include "materials/material_colour.h"
 #include "materials/material_coordinator.h"
-#include "workshop/fall_back_view.h"
-#include "workshop/hot_keys.h"
 #include "obj/leaving.h"
-#include "workshop/open_workshop.h"
-#include "workshop/play.h"
-#include "workshop/reset.h"
-#include "workshop/spin.h"
-#include "workshop/view.h"
-#include "workshop/view_keys.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_colours.h"
 #include "pose/mor_builder.h"
 #include "pose/pz2_editor.h"
 #include "pose/weld.h"
 #include "text/history.h"
+#include "tools/graph_paper.h"
+#include "tools/launcher.h"
+#include "tools/magnifier.h"
+#include "tools/map_viewer.h"
+#include "workshop/fall_back_view.h"
+#include "workshop/hot_keys.h"
+#include "workshop/open_workshop.h"
+#include "workshop/play.h"
+#include "workshop/reset.h"
+#include "workshop/spin.h"
+#include "workshop/view.h"
+#include "workshop/view_keys.h"
 
 namespace norvik::workbench {
 
@@ -76,6 +81,11 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formPZ2_);
   session_.addForm(formMOR_);
   session_.addForm(formPZ2Combine_);
+  session_.addForm(renamer_);
+  session_.addForm(formViewer_);
+  session_.addForm(formScale_);
+  session_.addForm(magnifier_);
+  session_.addForm(formLaunch_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -145,6 +155,11 @@ void Workbench::wireTools() {
   obj::wireLeaving(workshop_);
   obj::wireSpin(workshop_);
   obj::wireViewKeys(workshop_);
+  dials::wireRenamer(session_, renamer_);
+  tools::wireMapViewer(session_, formViewer_);
+  tools::wireGraphPaper(session_, formScale_);
+  tools::wireMagnifier(session_, formObj_, magnifier_);
+  tools::wireLauncher(session_, formLaunch_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);
