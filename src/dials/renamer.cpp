@@ -46,6 +46,7 @@ void pickFromList(front::Session& session, Renamer& form) {
 void renamePicked(front::Session& session, Renamer& form) {
   if (form.pickedFile.empty()) return say(session, "You must choose a file first!");
   if (!form.chosen) return say(session, "Choose from the buttons below first.");
+  ++form.passes;
   session.hourglass(true);
   const bool renamed =
       text::ignoringErrors([&] { renameFile(session.disk, form.pickedFile, *form.chosen); });

@@ -9,6 +9,7 @@
 #include "front/plain_controls.h"
 #include "front/text_controls.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,7 @@ class Renamer : public front::Form {
 
   std::optional<Direction> chosen;  ///< the direction
   std::string pickedFile;           ///< its whole path; empty: none
+  std::uint64_t passes = 0;         ///< how many were made, whatever came of them
 
   front::MenuEntry MenuHelp{*this, "MenuHelp", "Help"};
   front::Label LabelFriendly{*this, "LabelFriendly", "Change to Friendly"};

@@ -1,5 +1,7 @@
 #include "tools/form_launch.h"
 
+#include <utility>
+
 namespace norvik::tools {
 
 namespace {
@@ -22,7 +24,16 @@ void FormLaunch::restoreStart() {
 
 void FormLaunch::clearPicture() {
   printed.clear();
+  holdsPicture_ = false;
   Picture1.resize(kWidth, kHeight);
+}
+
+void FormLaunch::showPicture(graphics::Surface picture) {
+  printed.clear();
+  holdsPicture_ = true;
+  Picture1.resize(picture.width(), picture.height());
+  Picture1.surface() = std::move(picture);
+  Picture1.refresh();
 }
 
 }  // namespace norvik::tools

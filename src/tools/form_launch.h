@@ -6,6 +6,7 @@
 #include "front/form_start.h"
 #include "front/picture_box.h"
 
+#include <cstdint>
 #include <string>
 
 namespace norvik::tools {
@@ -19,6 +20,10 @@ class FormLaunch : public front::Form {
 
   /// Empties the picture.
   void clearPicture();
+  void showPicture(graphics::Surface picture);
+  bool holdsPicture() const { return holdsPicture_; }
+
+  std::uint64_t opened = 0;  ///< how many files were handed to the main form
 
   /// What is printed in the middle of the empty picture; empty: nothing.
   std::string printed;
@@ -29,6 +34,7 @@ class FormLaunch : public front::Form {
   front::CheckBox Check1{*this, "Check1", "Use OLE DragDrop"};
 
  private:
+  bool holdsPicture_ = false;
   front::FormStart start_;
 };
 

@@ -46,6 +46,7 @@ FormViewer::Axis FormViewer::setBar(front::Slider& bar, float picture, float inn
 }
 
 void FormViewer::showPicture(graphics::Surface picture) {
+  ++shownPictures;
   picChild.surface() = std::move(picture);
   const graphics::Surface& surface = picChild.surface();
   picChild.setBox(

@@ -5,6 +5,8 @@
 #include "front/form.h"
 #include "front/picture_box.h"
 
+#include <cstdint>
+
 namespace norvik::tools {
 
 class FormViewer : public front::Form {
@@ -19,6 +21,8 @@ class FormViewer : public front::Form {
   void showPicture(graphics::Surface picture);
   /// Moves the picture to where the bars stand.
   void scroll();
+
+  std::uint64_t shownPictures = 0;  ///< how many were shown so far
 
   /// The window, as it were, through which the picture is seen.
   front::PictureBox picParent{*this, "picParent"};

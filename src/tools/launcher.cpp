@@ -39,14 +39,12 @@ void openFile(front::Session& session, std::string path) {
 }
 
 void showPicture(front::Session& session, FormLaunch& form, const std::string& path) {
-  form.clearPicture();
   if (auto picture = front::loadPicture(session, path)) {
-    form.Picture1.resize(picture->width(), picture->height());
-    form.Picture1.surface() = std::move(*picture);
+    form.showPicture(std::move(*picture));
   } else {
+    form.clearPicture();
     form.printed = "Invalid File Format!";
   }
-  form.Picture1.refresh();
 }
 
 }  // namespace
@@ -58,6 +56,7 @@ void wireLauncher(front::Session& session, FormLaunch& form) {
     if (form.Check1.value()) {
       showPicture(session, form, files.front());
     } else {
+      ++form.opened;
       openFile(session, files.front());
     }
   });

@@ -37,8 +37,9 @@ std::optional<std::string> choosePath(front::Session& session, const std::string
     return std::nullopt;
   }
   front::CommonDialog& dialog = session.opening.CommonDialog6;
-  if (!dialog.open(session.front, session.disk.currentFolder(), "Open",
-                   {"Which map shall be shown?", "Pictures|*.bmp;*.jpg;*.gif|All files|*.*", {}})) {
+  if (!dialog.open(
+          session.front, session.disk.currentFolder(), {},
+          {"Where is the map?", "Pictures|*.bmp;*.bum;*.gif;*.jpg;*.jpeg;*.tga|All files|*.*"})) {
     return std::nullopt;
   }
   return dialog.fileName();
