@@ -2,6 +2,7 @@
 // A front end that nobody sits in front of.
 
 #include "front/front_end.h"
+#include "graphics/bmp_reader.h"
 #include "headless/remembering_device.h"
 
 #include <map>
@@ -34,6 +35,16 @@ class QuietFrontEnd final : public front::FrontEnd {
     return devices_.try_emplace(&picture, picture).first->second;
   }
   bool nextFrame() override { return false; }
+  std::optional<graphics::Surface> decodePicture(std::string_view bytes) override {
+    return graphics::bmpSurface(bytes);
+  }
+  bool clipboardHoldsPicture() const override { return false; }
+  void copyPicture(const graphics::Surface&) override {}
+  void clearClipboard() override {}
+  std::optional<front::ScreenPoint> pointer() override { return {}; }
+  graphics::Surface enlarged(const front::ScreenPart&, int width, int height) override {
+    return {width, height};
+  }
   void show(front::Form&) override {}
   void showModal(front::Form&, const std::function<void()>& shown) override { shown(); }
   void unloaded(front::Form&) override {}

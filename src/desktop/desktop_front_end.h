@@ -64,6 +64,12 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   void waitForOperator() override;
   graphics::Device3D& device(front::PictureBox& picture) override { return glDevice(picture); }
   bool nextFrame() override;
+  std::optional<graphics::Surface> decodePicture(std::string_view bytes) override;
+  bool clipboardHoldsPicture() const override;
+  void copyPicture(const graphics::Surface& picture) override;
+  void clearClipboard() override;
+  std::optional<front::ScreenPoint> pointer() override;
+  graphics::Surface enlarged(const front::ScreenPart& part, int width, int height) override;
   void show(front::Form& form) override;
   void showModal(front::Form& form, const std::function<void()>& shown) override;
   void unloaded(front::Form& form) override;

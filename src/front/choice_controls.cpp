@@ -16,6 +16,12 @@ void OptionButton::setValue(bool value) {
   set(value_, value);
 }
 
+void Slider::setLimits(int least, int most) {
+  set(least_, least);
+  set(most_, std::max(least, most));
+  setValue(value_);
+}
+
 void Slider::setValue(int value) {
   set(value_, std::clamp(value, least_, most_));
 }

@@ -52,6 +52,11 @@ class Slider : public Control {
 
   int least() const { return least_; }
   int most() const { return most_; }
+  /// Sets the limits; a value outside them moves to the nearest one.
+  void setLimits(int least, int most);
+  /// How far a click beside the handle moves it; 0: as the front end likes.
+  int page() const { return page_; }
+  void setPage(int page) { set(page_, page); }
   int value() const { return value_; }
   /// Sets the value, kept within the limits.
   void setValue(int value);
@@ -61,6 +66,7 @@ class Slider : public Control {
  private:
   int least_;
   int most_;
+  int page_ = 0;
   int value_ = 0;
 };
 

@@ -84,6 +84,10 @@ class Control {
   float fontSize() const { return fontSize_; }
   void setFontSize(float points) { set(fontSize_, points); }
 
+  /// Whether a mouse press on the control starts a drag; the tool that owns the target says so.
+  bool dragging() const { return dragging_; }
+  void setDragging(bool dragging) { dragging_ = dragging; }
+
   /// Whether the operator can reach the control: it is visible and enabled, and so is what holds
   /// it.
   virtual bool reachable() const { return visible_ && enabled_; }
@@ -115,6 +119,7 @@ class Control {
   bool visible_ = true;
   bool enabled_ = true;
   bool changed_ = false;
+  bool dragging_ = false;
   Box box_;
   Colour fore_ = kBlack;
   Colour back_ = kWhite;

@@ -2,6 +2,9 @@
 
 #include "text/columns.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace norvik::front {
 
 namespace {
@@ -22,10 +25,13 @@ void FolderList::setPath(std::string_view path) {
 void FileList::list(const text::Disk& disk) {
   clear();
   const std::string_view between = path_.ends_with('\\') ? "" : "\\";
-  text::ignoringErrors([&] {
-    for (const std::string& name : disk.matching(path_ + std::string{between} + pattern_))
-      add(name);
+  std::vector<std::string> names;
+  text::ignoringErrors([&] { names = disk.matching(path_ + std::string{between} + pattern_); });
+  // They come in the order of their bytes, which stays that of names that differ in case alone.
+  std::stable_sort(names.begin(), names.end(), [](const std::string& one, const std::string& two) {
+    return text::lowered(one) < text::lowered(two);
   });
+  for (const std::string& name : names) add(name);
 }
 
 bool walkTo(const text::Disk& disk, FolderList& folders, std::string_view path) {

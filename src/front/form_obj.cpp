@@ -49,12 +49,26 @@ void showStart(FormOBJ& form) {
     control->hide();
     control->setEnabled(true);
   }
-  for (Control* control : std::initializer_list<Control*>{
-           &form.PictureObjViewer2, &form.LabelView, &form.PictureNewFile, &form.Frame1,
-           &form.OptionFrontView, &form.OptionSideView, &form.OptionTopView, &form.Frame2,
-           &form.OptionNoColors, &form.OptionColorGroups, &form.OptionColorMaterials, &form.Frame3,
-           &form.OptionShowPolys, &form.OptionShowPoints, &form.LabelHotKeys, &form.LabelPlay,
-           &form.LabelBoss, &form.CommandListGroups, &form.CommandListMats}) {
+  for (Control* control : std::initializer_list<Control*>{&form.PictureObjViewer2,
+                                                          &form.LabelView,
+                                                          &form.PictureNewFile,
+                                                          &form.Frame1,
+                                                          &form.OptionFrontView,
+                                                          &form.OptionSideView,
+                                                          &form.OptionTopView,
+                                                          &form.Frame2,
+                                                          &form.OptionNoColors,
+                                                          &form.OptionColorGroups,
+                                                          &form.OptionColorMaterials,
+                                                          &form.Frame3,
+                                                          &form.OptionShowPolys,
+                                                          &form.OptionShowPoints,
+                                                          &form.LabelHotKeys,
+                                                          &form.LabelPlay,
+                                                          &form.LabelBoss,
+                                                          &form.CommandListGroups,
+                                                          &form.CommandListMats,
+                                                          &form.PictureMagGlass}) {
     control->show();
   }
   form.CommandListGroups.setEnabled(false);

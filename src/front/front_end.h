@@ -2,6 +2,7 @@
 // What the tools ask of whoever sits in front of them: a person at a window, or a script.
 
 #include "front/colours.h"
+#include "graphics/surface.h"
 #include "text/file_error.h"
 
 #include <functional>
@@ -60,6 +61,22 @@ struct Screen {
   float height = 0;  ///< in twips
 };
 
+/// Where the mouse pointer is on its screen, in pixels, and the colour there.
+struct ScreenPoint {
+  graphics::Point at;
+  int screenWidth = 0;
+  int screenHeight = 0;
+  Colour colour = kBlack;
+};
+
+/// A part of the screen, in pixels.
+struct ScreenPart {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
 /// Thrown by a front end whose operator is gone: a script without an answer to a box, a window that
 /// closes while a tool waits. It ends the tool as a run-time error does, without a word; tools
 /// never catch it.
@@ -94,6 +111,21 @@ class FrontEnd {
   /// Between two frames of an animation: lets queued events run and keeps the pace. False when the
   /// animation has lost its operator and must end.
   virtual bool nextFrame() = 0;
+
+  /// The picture that the bytes of a file hold; none if the front end knows no picture in them.
+  virtual std::optional<graphics::Surface> decodePicture(std::string_view bytes) = 0;
+
+  // The clipboard, of which the tools know no more than a picture.
+
+  virtual bool clipboardHoldsPicture() const = 0;
+  /// Empties the clipboard and puts a picture into it.
+  virtual void copyPicture(const graphics::Surface& picture) = 0;
+  virtual void clearClipboard() = 0;
+
+  /// What the mouse pointer is at; nothing where no program may look at the screen.
+  virtual std::optional<ScreenPoint> pointer() = 0;
+  /// What a part of the pointer's screen shows, stretched to a size.
+  virtual graphics::Surface enlarged(const ScreenPart& part, int width, int height) = 0;
 
   /// Shows a loaded form.
   virtual void show(Form& form) = 0;

@@ -68,10 +68,6 @@ class ListBox : public Control {
   std::vector<int> ticks() const;
   Event<int> tickChanged{*this};
 
-  /// Whether a mouse press on an item starts a drag; the tool that owns the target says so.
-  bool dragging() const { return dragging_; }
-  void setDragging(bool dragging) { dragging_ = dragging; }
-
  private:
   bool holds(int index) const { return index >= 0 && index < count(); }
 
@@ -81,7 +77,6 @@ class ListBox : public Control {
   std::vector<bool> ticked_;
   std::uint64_t itemChanges_ = 0;
   int index_ = kNone;
-  bool dragging_ = false;
   bool shiftHeld_ = false;
 };
 

@@ -35,6 +35,11 @@ void scaleToScreen(Session& session, Form& form) {
   if (ratio > 0) scaleForm(form, ratio, ratio);
 }
 
+void stretchToScreen(Session& session, Form& form) {
+  const Screen screen = session.front.screen();
+  scale(form, screen.width / form.box().width, screen.height / form.box().height);
+}
+
 float scaledLeft(const Opening& opening, float left) {
   return opening.ScreenScaleX == 0 ? left : opening.ScreenScaleX * left;
 }

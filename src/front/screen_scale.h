@@ -17,6 +17,10 @@ void ResizeFormToScreen(Session& session, Form& form);
 /// the screen, so that pictures keep their proportions.
 void scaleToScreen(Session& session, Form& form);
 
+/// Multiplies a form, its controls and their fonts to the size of the screen, width and height each
+/// by a ratio of its own.
+void stretchToScreen(Session& session, Form& form);
+
 /// A left edge in the main form's own pixels, as it is on the screen.
 float scaledLeft(const Opening& opening, float left);
 

@@ -61,8 +61,7 @@ void OperatorActs::tick(front::ListBox& list, int index, bool on) {
 
 void OperatorActs::drop(front::Control& from, front::Control& onto) {
   deliver(from.pressed, Mouse{});
-  const auto* list = dynamic_cast<front::ListBox*>(&from);
-  if (list != nullptr && list->dragging()) deliver(onto.dropped, from);
+  if (from.dragging()) deliver(onto.dropped, from);
 }
 
 void OperatorActs::dropFiles(const std::vector<std::string>& paths, front::Control& onto) {

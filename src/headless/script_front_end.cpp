@@ -1,5 +1,7 @@
 #include "headless/script_front_end.h"
 
+#include "graphics/bmp_reader.h"
+
 #include <algorithm>
 #include <array>
 #include <ctime>
@@ -115,6 +117,10 @@ bool ScriptFrontEnd::nextFrame() {
   if (++drawn_ < frames_) return !ended_;
   drawn_ = 0;
   return !ended_ && step_ && step_() && !ended_;
+}
+
+std::optional<graphics::Surface> ScriptFrontEnd::decodePicture(std::string_view bytes) {
+  return graphics::bmpSurface(bytes);
 }
 
 void ScriptFrontEnd::printForm(const front::Form& form, std::string_view state) {

@@ -12,6 +12,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,6 +60,14 @@ class ScriptFrontEnd : public front::FrontEnd {
     return rememberingDevice(picture);
   }
   bool nextFrame() override;
+  std::optional<graphics::Surface> decodePicture(std::string_view bytes) override;
+  bool clipboardHoldsPicture() const override { return pictureCopied_; }
+  void copyPicture(const graphics::Surface&) override { pictureCopied_ = true; }
+  void clearClipboard() override { pictureCopied_ = false; }
+  std::optional<front::ScreenPoint> pointer() override { return std::nullopt; }
+  graphics::Surface enlarged(const front::ScreenPart&, int width, int height) override {
+    return {width, height};
+  }
   void show(front::Form& form) override;
   void showModal(front::Form& form, const std::function<void()>& shown) override;
   void unloaded(front::Form& form) override;
@@ -92,7 +101,8 @@ class ScriptFrontEnd : public front::FrontEnd {
   std::string lastBox_;
   std::map<front::PictureBox*, std::unique_ptr<RememberingDevice>> devices_;
   int frames_ = 1;
-  int drawn_ = 0;  ///< frames since the last command
+  int drawn_ = 0;               ///< frames since the last command
+  bool pictureCopied_ = false;  ///< the clipboard is the runner's own, empty at the start
   bool ended_ = false;
 };
 

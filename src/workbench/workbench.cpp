@@ -24,6 +24,7 @@
 #include "channels/mirror/mirror.h"
 #include "channels/removal/trash.h"
 #include "channels/renaming/rename.h"
+#include "dials/renamer.h"
 #include "editor/manual_editor.h"
 #include "editor/notes.h"
 #include "erc/change_ratio.h"
@@ -70,6 +71,10 @@
 #include "pose/pz2_editor.h"
 #include "pose/weld.h"
 #include "text/history.h"
+#include "tools/graph_paper.h"
+#include "tools/launcher.h"
+#include "tools/magnifier.h"
+#include "tools/map_viewer.h"
 #include "workshop/fall_back_view.h"
 #include "workshop/hot_keys.h"
 #include "workshop/open_workshop.h"
@@ -97,6 +102,11 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formEditor_);
   session_.addForm(formNotes_);
   session_.addForm(formHole_);
+  session_.addForm(renamer_);
+  session_.addForm(formViewer_);
+  session_.addForm(formScale_);
+  session_.addForm(magnifier_);
+  session_.addForm(formLaunch_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -186,6 +196,11 @@ void Workbench::wireTools() {
   editor::wireNotepad(session_);
   editor::wireFormNotes(session_, formNotes_);
   editor::wireFormHole(session_, formHole_, formObj_);
+  dials::wireRenamer(session_, renamer_);
+  tools::wireMapViewer(session_, formViewer_);
+  tools::wireGraphPaper(session_, formScale_);
+  tools::wireMagnifier(session_, formObj_, magnifier_);
+  tools::wireLauncher(session_, formLaunch_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);

@@ -3,18 +3,26 @@
 
 #include "builders/phi/form_phi.h"
 #include "builders/phi/form_tree.h"
+<<<<<<< HEAD
 #include "editor/form_editor.h"
 #include "editor/form_notes.h"
+=======
+#include "dials/renamer_form.h"
+>>>>>>> small-tools
 #include "erc/dialog_erc.h"
 #include "erc/form_ecm.h"
 #include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
 #include "materials/form_mat_coord.h"
-#include "workshop/workshop.h"
 #include "pose/form_mor.h"
 #include "pose/form_pz2.h"
 #include "pose/form_pz2_combine.h"
+#include "tools/form_launch.h"
+#include "tools/form_scale.h"
+#include "tools/form_viewer.h"
+#include "tools/magnifier_form.h"
+#include "workshop/workshop.h"
 
 #include <string>
 
@@ -49,9 +57,17 @@ class Workbench {
   pose::FormPZ2 formPZ2_;
   pose::FormMOR formMOR_;
   pose::FormPZ2Combine formPZ2Combine_;
+<<<<<<< HEAD
   editor::FormEditor formEditor_;
   editor::FormNotes formNotes_;
   editor::FormHole formHole_;
+=======
+  dials::Renamer renamer_;
+  tools::FormViewer formViewer_;
+  tools::FormScale formScale_;
+  tools::Magnifier magnifier_;
+  tools::FormLaunch formLaunch_;
+>>>>>>> small-tools
   front::Session session_;
   obj::Workshop workshop_;
 };

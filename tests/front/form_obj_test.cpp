@@ -50,7 +50,7 @@ const std::set<std::string>& shownAtTheStart() {
       "OptionFrontView",   "OptionSideView",    "OptionTopView",        "Frame2",
       "OptionNoColors",    "OptionColorGroups", "OptionColorMaterials", "Frame3",
       "OptionShowPolys",   "OptionShowPoints",  "LabelHotKeys",         "LabelPlay",
-      "LabelBoss",         "CommandListGroups", "CommandListMats"};
+      "LabelBoss",         "CommandListGroups", "CommandListMats",      "PictureMagGlass"};
   return names;
 }
 

@@ -72,6 +72,7 @@ SliderBinding::SliderBinding(Dispatcher& dispatcher, front::Slider& slider, QAbs
 
 void SliderBinding::refresh() {
   drawn_.setRange(slider_.least(), slider_.most());
+  if (slider_.page() > 0) drawn_.setPageStep(slider_.page());
   drawn_.setValue(slider_.value());
   WidgetBinding::refresh();
 }

@@ -1,6 +1,7 @@
 #include "desktop/bind/surface_view.h"
 
-#include <QImage>
+#include "desktop/images.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -56,14 +57,10 @@ QPoint SurfaceView::pixelAt(const QPointF& place) const {
 void SurfaceView::paintEvent(QPaintEvent*) {
   const QRectF box = pictureBox();
   if (box.isEmpty()) return;
-  // The image stands on the surface's own pixels.
-  const int rowBytes = surface_.width() * static_cast<int>(sizeof(std::uint32_t));
-  const QImage image(reinterpret_cast<const uchar*>(surface_.pixels().data()), surface_.width(),
-                     surface_.height(), rowBytes, QImage::Format_RGB32);
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform,
                         box.width() * devicePixelRatioF() < surface_.width());
-  painter.drawImage(box, image);
+  painter.drawImage(box, imageOn(surface_));
 }
 
 }  // namespace norvik::desktop

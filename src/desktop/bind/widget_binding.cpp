@@ -181,7 +181,13 @@ bool WidgetBinding::dragOver(QDropEvent& event) const {
   const bool wanted = carriesControl(data) && control().dropped.hasHandlers();
   const bool file = carriesFile(data) && control().filesDropped.hasHandlers();
   if (!wanted && !file) return false;
-  event.acceptProposedAction();
+  if (file) {
+    // A file manager that proposes to move a file would delete it behind the drop.
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+  } else {
+    event.acceptProposedAction();
+  }
   return true;
 }
 

@@ -1,13 +1,18 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/launch_window.h"
 #include "desktop/forms/link_dialog_window.h"
 #include "desktop/forms/link_window.h"
+#include "desktop/forms/magnifier_window.h"
 #include "desktop/forms/material_coordinator_window.h"
 #include "desktop/forms/mor_window.h"
 #include "desktop/forms/phi_window.h"
 #include "desktop/forms/pose_window.h"
 #include "desktop/forms/ratio_window.h"
+#include "desktop/forms/renamer_window.h"
+#include "desktop/forms/scale_window.h"
 #include "desktop/forms/tree_window.h"
+#include "desktop/forms/viewer_window.h"
 #include "desktop/forms/weld_window.h"
 #include "desktop/window/mesh_window.h"
 
@@ -51,6 +56,11 @@ constexpr Entry kWindows[] = {
     {"FormPZ2", makeLaidOut<PoseWindow, pose::FormPZ2>},
     {"FormMOR", makeLaidOut<MorWindow, pose::FormMOR>},
     {"FormPZ2Combine", makeLaidOut<WeldWindow, pose::FormPZ2Combine>},
+    {"Renamer", makeLaidOut<RenamerWindow, dials::Renamer>},
+    {"FormViewer", makeLaidOut<ViewerWindow, tools::FormViewer>},
+    {"FormScale", makeLaidOut<ScaleWindow, tools::FormScale>},
+    {"Magnifier", makeLaidOut<MagnifierWindow, tools::Magnifier>},
+    {"FormLaunch", makeLaidOut<LaunchWindow, tools::FormLaunch>},
 };
 
 }  // namespace
