@@ -61,7 +61,9 @@ void save(front::Session& session, const std::string& scratch, const std::string
   const front::Answer answer = session.front.messageBox(
       "Control Ratio changed to " + ratio + ".  Save changes?", "Note!", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  if (figure::chooseSavePath(session, figure) == figure) session.disk.replace(scratch, figure);
+  if (figure::chooseSavePath(session, figure) != figure) return;
+  session.disk.replace(scratch, figure);
+  session.front.tellOf({.path = figure});
 }
 
 void changeRatio(front::Session& session, FormListEMCs& form) {
