@@ -3,12 +3,9 @@
 
 #include "builders/phi/form_phi.h"
 #include "builders/phi/form_tree.h"
-<<<<<<< HEAD
+#include "dials/renamer_form.h"
 #include "editor/form_editor.h"
 #include "editor/form_notes.h"
-=======
-#include "dials/renamer_form.h"
->>>>>>> small-tools
 #include "erc/dialog_erc.h"
 #include "erc/form_ecm.h"
 #include "erc/form_list_emcs.h"
@@ -57,17 +54,14 @@ class Workbench {
   pose::FormPZ2 formPZ2_;
   pose::FormMOR formMOR_;
   pose::FormPZ2Combine formPZ2Combine_;
-<<<<<<< HEAD
   editor::FormEditor formEditor_;
   editor::FormNotes formNotes_;
   editor::FormHole formHole_;
-=======
   dials::Renamer renamer_;
   tools::FormViewer formViewer_;
   tools::FormScale formScale_;
   tools::Magnifier magnifier_;
   tools::FormLaunch formLaunch_;
->>>>>>> small-tools
   front::Session session_;
   obj::Workshop workshop_;
 };
