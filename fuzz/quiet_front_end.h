@@ -5,6 +5,7 @@
 #include "graphics/bmp_reader.h"
 #include "headless/remembering_device.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -17,6 +18,8 @@ class QuietFrontEnd final : public front::FrontEnd {
  public:
   void answerWith(front::Answer answer) { answer_ = answer; }
   void setScreen(front::Screen screen) { screen_ = screen; }
+  /// What the operator does while a tool waits for him; without it he has gone.
+  void whenWaiting(std::function<void()> step) { step_ = std::move(step); }
   const std::vector<std::string>& boxes() const { return boxes_; }
 
   front::Answer messageBox(std::string_view text, std::string_view, int style) override {
@@ -30,7 +33,10 @@ class QuietFrontEnd final : public front::FrontEnd {
   void setHourglass(front::Form&, bool) override {}
   void beep() override {}
   void pumpEvents() override {}
-  void waitForOperator() override { throw front::ToolStopped{}; }
+  void waitForOperator() override {
+    if (!step_) throw front::ToolStopped{};
+    step_();
+  }
   graphics::Device3D& device(front::PictureBox& picture) override {
     return devices_.try_emplace(&picture, picture).first->second;
   }
@@ -65,6 +71,7 @@ class QuietFrontEnd final : public front::FrontEnd {
   front::Answer answer_ = front::Answer::ok;
   front::Screen screen_;
   std::vector<std::string> boxes_;
+  std::function<void()> step_;
   std::map<front::PictureBox*, headless::RememberingDevice> devices_;
 };
 

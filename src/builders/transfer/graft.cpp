@@ -90,6 +90,7 @@ void Graft::writeStorage() {
 }
 
 bool Graft::passActors() {
+  session_.hourglass(true);
   std::string actor;
   for (;;) {
     const bool found = in_->copyTo(*out_,
@@ -114,6 +115,7 @@ bool Graft::passActors() {
         opening_.FileLabel.setCaption({});
         return false;
       }
+      session_.hourglass(true);
     }
     out_->line(line);
   }
@@ -160,14 +162,19 @@ void Graft::writeUnderParent(std::string_view keyword) {
 
 void Graft::writeChild() {
   // A figure without chains ends here with its last line on hand, which is written again.
-  in_->copyTo(*out_, holding("inkyChain"), {"inkyChain"});
+  if (!holds(in_->line(), "inkyChain")) {
+    in_->copyTo(*out_, holding("inkyChain"), {"inkyChain"});
+  }
   writeUnderParent("addChild");
   out_->line(in_->line());
 }
 
 void Graft::writeWeld() {
-  const bool found = in_->copyTo(*out_, holding("allows"), {"allows"});
-  if (!found) in_->read();
+  session_.hourglass(true);
+  if (!holds(in_->line(), "allows")) {
+    const bool found = in_->copyTo(*out_, holding("allows"), {"allows"});
+    if (!found) in_->read();
+  }
   writeUnderParent("weld");
   out_->line(in_->line());
   in_->copyRest(*out_);
@@ -178,6 +185,7 @@ void Graft::finish() {
   const std::size_t folder = destination_.rfind('\\') + 1;
   const std::string result = destination_.substr(0, folder) + "New-" + destination_.substr(folder);
   session_.disk.rename(kResult, result);
+  session_.hourglass(false);
   opening_.FileLabel.setCaption({});
   session_.front.messageBox("New CR2 saved as " + result + ".", "Finished!", front::kOk);
 }

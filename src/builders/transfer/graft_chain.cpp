@@ -11,7 +11,6 @@ namespace {
 using text::holds;
 
 constexpr std::string_view kGap = " ";
-constexpr std::string_view kYourLink = "Your Link";
 /// Where the index and the weight stand in a weight line.
 constexpr std::size_t kWeightColumn = 14;
 
@@ -24,6 +23,7 @@ void removeItems(front::ListBox& list, std::string_view unwanted) {
 }  // namespace
 
 void Graft::askForChain() {
+  session_.hourglass(false);
   inChain_ = session_.front.messageBox("Is the new body part involved in the IK chain?", "Next...",
                                        front::kYesNo) == front::Answer::yes;
   if (!inChain_) return;
@@ -94,6 +94,7 @@ void Graft::writeWeights() {
     list.add(text::from(last, kWeightColumn));
     out_->line(last);
   }
+  static_cast<void>(weightByRatio(list, last));
   removeItems(list, kGap);
   removeItems(list, kYourLink);
 
