@@ -37,7 +37,7 @@ void scaleToScreen(Session& session, Form& form) {
 
 void stretchToScreen(Session& session, Form& form) {
   const Screen screen = session.front.screen();
-  scale(form, screen.width / form.box().width, screen.height / form.box().height);
+  scaleForm(form, screen.width / form.box().width, screen.height / form.box().height);
 }
 
 float scaledLeft(const Opening& opening, float left) {
