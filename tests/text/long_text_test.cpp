@@ -83,17 +83,17 @@ TEST(LongText, JoinsALineEndThatArrivesInTwo) {
 }
 
 TEST(LongText, IsAsAStringAfterAnyEdits) {
-  for (unsigned seed = 1; seed <= 4; ++seed) {
+  for (unsigned seed = 1; seed <= 3; ++seed) {
     RandomText random(seed);
-    std::string model = random.of(kPieces, random.below(2) == 0 ? 50 : 150'000);
+    std::string model = random.of(kPieces, random.below(2) == 0 ? 50 : 90'000);
     LongText text(model);
     LongTextEdits edits(text);
     std::vector<std::string> states{model};
     for (int i = 0; i < 40; ++i) {
       const std::size_t at = random.below(model.size() + 1);
-      const std::size_t most = random.below(4) == 0 ? 100'000 : 5;
+      const std::size_t most = random.below(4) == 0 ? 30'000 : 5;
       const std::size_t length = std::min(random.below(most), model.size() - at);
-      const std::string bytes = random.of(kPieces, random.below(random.below(4) == 0 ? 90'000 : 4));
+      const std::string bytes = random.of(kPieces, random.below(random.below(4) == 0 ? 20'000 : 4));
       const bool changes = length > 0 || !bytes.empty();
       model.replace(at, length, bytes);
       edits.replace(at, length, bytes);
@@ -199,7 +199,7 @@ std::vector<std::size_t> hitsIn(const std::string& bytes, std::string wanted,
 
 TEST(TextSearch, FindsWhatAStringFinds) {
   constexpr std::string_view kWords[] = {"cat", "Cat", " ", "ca", "t", "_", "\r\n", "catcat", "aa"};
-  for (unsigned seed = 1; seed <= 4; ++seed) {
+  for (unsigned seed = 1; seed <= 3; ++seed) {
     RandomText random(seed);
     const std::string bytes = random.of(kWords, 120'000);
     const LongText text(bytes);
