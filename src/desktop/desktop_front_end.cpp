@@ -304,6 +304,10 @@ void DesktopFrontEnd::unloaded(front::Form& form) {
   stage_->close(form);
 }
 
+void DesktopFrontEnd::bringToFront(front::Form& form) {
+  stage_->show(form, false);
+}
+
 front::Screen DesktopFrontEnd::screen() const {
   const QSize size = QApplication::primaryScreen()->size();
   return {static_cast<float>(size.width()) * kTwipsPerPixel,

@@ -77,6 +77,7 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   void show(front::Form& form) override;
   void showModal(front::Form& form, const std::function<void()>& shown) override;
   void unloaded(front::Form& form) override;
+  void bringToFront(front::Form& form) override;
   front::Screen screen() const override;
   bool drawTile(front::Form& form, int left, int top) override;
   int tileWidth() const override { return kTile; }

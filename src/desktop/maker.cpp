@@ -3,6 +3,7 @@
 #include "desktop/bind/choice_bindings.h"
 #include "desktop/bind/label_binding.h"
 #include "desktop/bind/list_binding.h"
+#include "desktop/bind/pane_binding.h"
 #include "desktop/bind/picture_binding.h"
 #include "desktop/bind/shape_binding.h"
 #include "desktop/bind/surface_binding.h"
@@ -11,6 +12,7 @@
 #include "desktop/cover_picture.h"
 #include "desktop/elided_label.h"
 #include "desktop/icons.h"
+#include "desktop/page/page_view.h"
 #include "desktop/pictures.h"
 #include "desktop/swatch.h"
 
@@ -70,6 +72,12 @@ QLineEdit& Maker::line(front::TextBox& box, QWidget& parent) {
   auto* edit = new QLineEdit(&parent);
   bindings_.add(std::make_unique<LineBinding>(dispatcher_, box, *edit, *edit));
   return *edit;
+}
+
+PageView& Maker::page(front::TextPane& pane, QWidget& parent) {
+  auto* view = new PageView(pane, &parent);
+  bindings_.add(std::make_unique<PaneBinding>(dispatcher_, pane, *view));
+  return *view;
 }
 
 QGroupBox& Maker::frame(front::Frame& frame, QWidget& parent) {
@@ -137,6 +145,9 @@ QWidget* Maker::make(front::Control& control, QWidget& parent) {
     case ControlKind::textBox:
       return &line(dynamic_cast<front::TextBox&>(control), parent);
     case ControlKind::richTextBox: {
+      if (auto* pane = dynamic_cast<front::TextPane*>(&control); pane != nullptr) {
+        return &page(*pane, parent);
+      }
       auto* edit = new QPlainTextEdit(&parent);
       bindings_.add(std::make_unique<PageBinding>(dispatcher_,
                                                   dynamic_cast<front::TextBox&>(control), *edit));

@@ -10,6 +10,7 @@
 #include "front/picture_box.h"
 #include "front/plain_controls.h"
 #include "front/text_controls.h"
+#include "front/text_pane.h"
 #include "front/timer.h"
 
 #include <initializer_list>
@@ -22,6 +23,8 @@ class QLineEdit;
 class QToolButton;
 
 namespace norvik::desktop {
+
+class PageView;
 
 /// Makes the widget that draws a control and binds the two. A widget belongs to its parent.
 class Maker {
@@ -40,6 +43,7 @@ class Maker {
   /// A label for a path, which gives way to a narrow window.
   QLabel& pathLabel(front::Label& label, QWidget& parent);
   QLineEdit& line(front::TextBox& box, QWidget& parent);
+  PageView& page(front::TextPane& pane, QWidget& parent);
   QGroupBox& frame(front::Frame& frame, QWidget& parent);
   /// A picture button, or a label that is one, with its icon and name.
   QToolButton& picture(front::Control& picture, QWidget& parent, int iconSize);

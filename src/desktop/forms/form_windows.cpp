@@ -1,11 +1,13 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/editor_window.h"
 #include "desktop/forms/launch_window.h"
 #include "desktop/forms/link_dialog_window.h"
 #include "desktop/forms/link_window.h"
 #include "desktop/forms/magnifier_window.h"
 #include "desktop/forms/material_coordinator_window.h"
 #include "desktop/forms/mor_window.h"
+#include "desktop/forms/notes_window.h"
 #include "desktop/forms/phi_window.h"
 #include "desktop/forms/pose_window.h"
 #include "desktop/forms/ratio_window.h"
@@ -47,6 +49,9 @@ std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
     {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
+    {"FormEditor", makeLaidOut<EditorWindow, editor::FormEditor>},
+    {"FormNotes", makeLaidOut<NotesWindow, editor::FormNotes>},
+    {"FormHole", makeLaidOut<HoleWindow, editor::FormHole>},
     {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
     {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
     {"FormMatCoord", makeCoordinator},

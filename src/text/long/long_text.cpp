@@ -238,4 +238,26 @@ std::size_t LongText::lineEnd(std::size_t line) const {
   return at;
 }
 
+std::vector<LongText::Line> LongText::lines(std::size_t first, std::size_t count) const {
+  std::vector<Line> result;
+  if (count == 0 || first >= lineCount()) return result;
+  std::size_t start = lineStart(first);
+  std::size_t begin = start;
+  visitFrom(start, [&](std::string_view bytes) {
+    for (std::size_t at = start > begin ? start - begin : 0; at < bytes.size();) {
+      const std::size_t end = findLineEnd(bytes, at);
+      if (end == bytes.size()) break;
+      result.push_back({start, begin + end});
+      const bool pair = bytes[end] == '\r' && end + 1 < bytes.size() && bytes[end + 1] == '\n';
+      at = end + (pair ? 2 : 1);
+      start = begin + at;
+      if (result.size() == count) return false;
+    }
+    begin += bytes.size();
+    return true;
+  });
+  if (result.size() < count) result.push_back({start, size_});
+  return result;
+}
+
 }  // namespace norvik::text

@@ -1,6 +1,7 @@
 #pragma once
 // A text of any size that is edited in place, and whose lines are found by their numbers.
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -43,6 +44,14 @@ class LongText {
   /// Where the bytes of a line end, its line end left out.
   std::size_t lineEnd(std::size_t line) const;
 
+  /// Where a line begins and where its bytes end, its line end left out.
+  struct Line {
+    std::size_t start;
+    std::size_t end;
+  };
+  /// Up to `count` lines that follow one another.
+  std::vector<Line> lines(std::size_t first, std::size_t count) const;
+
   /// The pieces from a position on, each as one view, until `visit` returns false.
   template <typename Visit>
   void visitFrom(std::size_t position, Visit visit) const {
@@ -50,6 +59,23 @@ class LongText {
     for (; place.piece < pieces_.size(); ++place.piece, place.offset = 0) {
       const std::string_view bytes = pieces_[place.piece].bytes;
       if (place.offset < bytes.size() && !visit(bytes.substr(place.offset))) return;
+    }
+  }
+
+  /// The pieces in front of a position, the last one first, each as one view and the place where it
+  /// begins, until `visit` returns false.
+  template <typename Visit>
+  void visitBack(std::size_t position, Visit visit) const {
+    const Place place = find(position);
+    std::size_t begin = std::min(position, size_) - place.offset;
+    if (place.offset > 0) {
+      const std::string_view bytes = pieces_[place.piece].bytes;
+      if (!visit(bytes.substr(0, place.offset), begin)) return;
+    }
+    for (std::size_t i = place.piece; i > 0; --i) {
+      const std::string_view bytes = pieces_[i - 1].bytes;
+      begin -= bytes.size();
+      if (!visit(bytes, begin)) return;
     }
   }
 
