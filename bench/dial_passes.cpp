@@ -1,5 +1,7 @@
 #include "dial_passes.h"
 
+#include "dials/rename_pass.h"
+
 namespace norvik::bench {
 
 namespace {
@@ -65,6 +67,16 @@ void makeUnique(Bench& bench) {
   bench.opening.TextERCUnique.setText("Ann");
   bench.opening.TextERCUnique.key.raise("Enter");
   mustHold(bench.disk.exists("C:\\figure_Unique.cr2"), "no copy");
+}
+
+void renameDials(Bench& bench) {
+  bench.disk.changeFolder("C:\\");
+  dials::renameFile(bench.disk, bench.path, dials::Direction::toFriendly);
+}
+
+void previewDials(Bench& bench) {
+  constexpr std::size_t kRows = 500;
+  dials::previewOf(bench.disk, bench.path, dials::Direction::toFriendly, kRows);
 }
 
 }  // namespace norvik::bench

@@ -12,5 +12,9 @@ void mirrorMorph(Bench& bench);
 void transferJoints(Bench& bench);
 void removeIkChains(Bench& bench);
 void makeUnique(Bench& bench);
+/// To friendly names; the figure has numbers.
+void renameDials(Bench& bench);
+/// What the renamer's form tells before anything is renamed.
+void previewDials(Bench& bench);
 
 }  // namespace norvik::bench

@@ -356,6 +356,8 @@ const std::vector<Pass>& passes() {
       pass("tracking speed, reading twice", copy, plain, changeTrackingSpeed),
       pass("joints, extract and transfer", copy, plain, transferJoints),
       pass("IK chains", rewrite, plain, removeIkChains),
+      pass("dials renamed", rewrite, plain, renameDials),
+      pass("dials renamed, preview", read, plain, previewDials),
       pass("link", rewrite, plain, writeLink),
       pass("list of links", read, plain, listLinks),
       pass("ratio", rewrite, plain, changeRatio),

@@ -55,11 +55,12 @@ void press(front::Session& session, Magnifier& form, front::Mouse mouse) {
 }
 
 void leave(front::Session& session, Magnifier& form) {
+  if (session.front.clipboardHoldsPicture() &&
+      session.front.messageBox("Do you want to clear the clipboard?", "Magnifier", front::kYesNo) ==
+          front::Answer::yes) {
+    session.front.clearClipboard();
+  }
   form.Timer1.stop();
-  if (!session.front.clipboardHoldsPicture()) return;
-  const front::Answer answer =
-      session.front.messageBox("Do you want to clear the clipboard?", "Magnifier", front::kYesNo);
-  if (answer == front::Answer::yes) session.front.clearClipboard();
 }
 
 void wireOpening(front::Session& session, front::FormOBJ& workshop, Magnifier& form) {

@@ -89,6 +89,7 @@ void wireMapViewer(front::Session& session, FormViewer& form) {
     loadMap(session, form);
   });
   form.shown.add([&session, &form] { sayIfEmpty(session, form); });
+  form.unloading.add([&form] { form.picChild.resize(0, 0); });
   form.vsc.changed.add([&form] { form.scroll(); });
   form.HScroll1.changed.add([&form] { form.scroll(); });
 }

@@ -14,7 +14,7 @@ namespace {
 /// So much that the pass writes in several pieces.
 std::string manyLines(const std::string& dial) {
   std::string lines;
-  constexpr int kLines = 9000;
+  constexpr int kLines = 4500;
   for (int i = 0; i < kLines; ++i) lines += "\t\t\tname " + dial + "\r\n\t\t\tmax 90 of a dial\r\n";
   return lines;
 }

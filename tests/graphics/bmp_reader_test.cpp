@@ -79,7 +79,7 @@ TEST(BmpReader, KnowsNoOtherFile) {
   EXPECT_FALSE(changed(22, {0, 0, 0, 0x80})) << "the height whose opposite there is not";
   EXPECT_FALSE(changed(22, {0xFF, 0xFF, 0xFF, 0x7F}));
   EXPECT_FALSE(changed(10, {53})) << "pixels in the headers";
-  EXPECT_FALSE(changed(10, {55})) << "pixels beyond the end";
+  EXPECT_FALSE(changed(10, {58})) << "pixels beyond the end";
   EXPECT_FALSE(changed(10, {0xFF, 0xFF, 0xFF, 0xFF}));
 }
 
