@@ -314,6 +314,10 @@ std::string DesktopFrontEnd::now() const {
   return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toStdString();
 }
 
+void DesktopFrontEnd::tellOf(const front::FinishedFile& file) {
+  if (tellOfResult_) tellOfResult_(file);
+}
+
 void DesktopFrontEnd::runtimeError(const text::FileError& error) {
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);

@@ -38,6 +38,10 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
 
   void setStage(Stage& stage) { stage_ = &stage; }
 
+  /// Who says what a tool has left behind.
+  using ResultListener = std::function<void(const front::FinishedFile& file)>;
+  void setResultListener(ResultListener listener) { tellOfResult_ = std::move(listener); }
+
   /// Does what ends in an open dialog, and answers the dialog with a path: a file that is dropped
   /// on the window takes the way of a chosen one.
   void withChosen(const std::string& path, const std::function<void()>& act);
@@ -78,6 +82,7 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   std::string systemFolder() const override { return "C:\\WINDOWS"; }
   front::Fetched fetch(std::string_view address, std::string_view path) override;
   std::string now() const override;
+  void tellOf(const front::FinishedFile& file) override;
   void runtimeError(const text::FileError& error) override;
   void endProcess() override;
 
@@ -94,6 +99,7 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   Asker& asker_;
   text::Disk& disk_;
   Stage* stage_ = nullptr;
+  ResultListener tellOfResult_;
   Sound sound_;
   std::unique_ptr<QPrinter> printer_;
   std::optional<std::string> chosen_;

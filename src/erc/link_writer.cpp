@@ -111,6 +111,7 @@ class LinkWriter {
       session_.disk.rename(scratch_, *chosen);
     }
     if (kind_.routine == Routine::PBM) form_.FileWritten = 1;
+    session_.front.tellOf({.path = *chosen});
   }
 
   front::Session& session_;

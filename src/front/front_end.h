@@ -2,6 +2,7 @@
 // What the tools ask of whoever sits in front of them: a person at a window, or a script.
 
 #include "front/colours.h"
+#include "front/finished_file.h"
 #include "text/file_error.h"
 
 #include <functional>
@@ -124,6 +125,8 @@ class FrontEnd {
   /// The date and time of the moment, as it is written into notes.
   virtual std::string now() const = 0;
 
+  /// A tool has made or saved a file. Nothing is asked and nothing is opened: a window may say so.
+  virtual void tellOf(const FinishedFile& file) { static_cast<void>(file); }
   /// Tells the operator that a tool was stopped by an error.
   virtual void runtimeError(const text::FileError& error) = 0;
   /// Called last of all: the process ends when the running handler has returned.

@@ -107,6 +107,7 @@ void makeLibraryFile(front::Session& session) {
   const std::string result = names.folder + "new" + names.title;
   writeCopy(session, names, entry, result);
   session.hourglass(false);
+  session.front.tellOf({.path = result});
   session.front.messageBox("New file saved as " + result +
                                ", you may place it where you wish in the Library.  The OBJ is "
                                "located as Runtime\\Geometries\\" +

@@ -79,6 +79,7 @@ void makeMaster(front::Session& session, const Work& work) {
   copyEnd(in, out);
   out.close();
   session.hourglass(false);
+  session.front.tellOf({.path = work.master});
   session.front.messageBox("You have just created a Master CR2 file called " + work.shown, "Note!",
                            front::kOk);
 }

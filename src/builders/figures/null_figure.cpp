@@ -108,6 +108,7 @@ void makeNullFigure(front::Session& session) {
   NullFigure(session, in, out).build();
   out.close();
   session.hourglass(false);
+  session.front.tellOf({.path = result});
   session.front.messageBox("Null Figure CR2 saved as " + result, "Note", front::kOk);
 }
 

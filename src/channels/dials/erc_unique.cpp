@@ -51,6 +51,7 @@ void makeUnique(front::Session& session) {
   writeCopy(session, opening.TextERCUnique.text(), scratch);
   session.disk.replace(scratch, target);
   session.hourglass(false);
+  session.front.tellOf({.path = target});
   session.front.messageBox("Unique Figure Name CR2 saved as " + target, "Note", front::kOk);
 }
 

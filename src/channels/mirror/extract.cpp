@@ -91,6 +91,7 @@ void extractToObj(front::Session& session) {
   writeDeltas(session, morph, deltas);
   writeMorph(session, range, deltas);
   session.hourglass(false);
+  session.front.tellOf({.path = opening.inProgramFolder(kMorph), .isScratch = true});
 }
 
 }  // namespace

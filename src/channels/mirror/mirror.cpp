@@ -28,10 +28,10 @@ Lines readMorph(front::Session& session) {
   return lines;
 }
 
-void mirrorLines(Lines& lines, const MirroredAxes& axes) {
+void mirrorLines(Lines& lines, const MirroredAxes& axes, std::string_view path) {
   if (!axes.any()) return;
   for (std::string& line : lines) {
-    if (isDelta(line)) line = mirroredDelta(line, axes);
+    if (isDelta(line)) line = mirroredDelta(line, axes, path);
   }
 }
 
@@ -104,11 +104,14 @@ void mirrorOnto(front::Session& session, const std::string& part) {
   session.hourglass(true);
   const bool done = text::ignoringErrors([&] {
     Lines lines = readMorph(session);
-    mirrorLines(lines, axes);
+    mirrorLines(lines, axes, opening.OpenedPath);
     insertMorph(session, part, lines);
   });
   session.hourglass(false);
-  if (done) return;
+  if (done) {
+    session.front.tellOf({.path = opening.inProgramFolder(kScratch), .isScratch = true});
+    return;
+  }
   session.front.messageBox("Unexpected error, probably a malformed file!", "Error!",
                            front::kCritical);
 }

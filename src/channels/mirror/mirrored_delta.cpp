@@ -26,12 +26,14 @@ bool isDelta(std::string_view line) {
   return text::column(line, "d") == kDeltaColumn;
 }
 
-std::string mirroredDelta(std::string_view line, const MirroredAxes& axes) {
+std::string mirroredDelta(std::string_view line, const MirroredAxes& axes, std::string_view path) {
   constexpr std::size_t kIndexAndNumbers = 4;
   std::vector<std::string> parts;
   auto rest = text::from(line, kDeltaColumn + 1);
   for (auto part = takePart(rest); !part.empty(); part = takePart(rest)) parts.emplace_back(part);
-  if (parts.size() < kIndexAndNumbers) throw text::FileError(text::ErrorNumber::inputPastEnd);
+  if (parts.size() < kIndexAndNumbers) {
+    throw text::FileError(text::ErrorNumber::inputPastEnd, path, text::FileAct::reading);
+  }
   if (axes.x) negate(parts[1]);
   if (axes.y) negate(parts[2]);
   if (axes.z) negate(parts[3]);

@@ -20,7 +20,8 @@ bool isDelta(std::string_view line);
 
 /// A displacement with the numbers of some axes negated as text: a "-" in front goes, and any other
 /// number gets one, also a zero. The parts come out with single blanks between them. Throws
-/// FileError inputPastEnd (62) for a line with fewer than three numbers behind its index.
-std::string mirroredDelta(std::string_view line, const MirroredAxes& axes);
+/// FileError inputPastEnd (62) for a line with fewer than three numbers behind its index; `path` is
+/// the file that it is from.
+std::string mirroredDelta(std::string_view line, const MirroredAxes& axes, std::string_view path);
 
 }  // namespace norvik::channels

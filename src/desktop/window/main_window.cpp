@@ -16,6 +16,8 @@
 #include "desktop/window/tool_strip.h"
 #include "desktop/window/view_menu.h"
 #include "desktop/words.h"
+#include "text/file_names.h"
+#include "text/save_copy.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -54,6 +56,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   makeMenus();
   addToolBar(makeToolStrip(maker_, opening_, *this));
   status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
+  frontEnd_.setResultListener([this](const front::FinishedFile& file) { tellOf(file); });
   makeCentre();
   bindTheRest();
   listenToMenus();
@@ -61,7 +64,9 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   sync();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  frontEnd_.setResultListener({});
+}
 
 void MainWindow::makeMenus() {
   menus_ = std::make_unique<MenuTree>(maker_.dispatcher(), maker_.bindings(), opening_, *menuBar());
@@ -113,6 +118,35 @@ void MainWindow::tellOfUntakenPaths() {
                    .arg(names.join(QStringLiteral(", "))));
 }
 
+/// Nothing is opened or listed before the operator says so.
+void MainWindow::tellOf(const front::FinishedFile& file) {
+  std::vector<ResultAction> actions;
+  if (file.isScratch) {
+    actions.push_back(
+        {QStringLiteral("Save as ..."), [this, path = file.path] { saveCopyOf(path); }});
+  }
+  actions.push_back(
+      {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
+  const QString name = shown(text::fileTitle(file.path));
+  status_->offer(file.isScratch ? QStringLiteral("Made: \\%1").arg(name)
+                                : QStringLiteral("Saved: %1").arg(name),
+                 shown(file.path), std::move(actions));
+}
+
+void MainWindow::saveCopyOf(const std::string& path) {
+  maker_.dispatcher().run("SaveResult", [this, &path] {
+    const std::string folder = session_.disk.currentFolder();
+    const auto target = frontEnd_.fileDialog({.kind = front::FileDialog::Kind::save,
+                                              .name = "SaveResult",
+                                              .title = "Save As",
+                                              .folder = folder,
+                                              .file = std::string{text::fileTitle(path)}});
+    if (!target) return;
+    text::saveCopy(session_.disk, path, *target, opening_.inProgramFolder("\\SaveCopy.tmp"));
+    tellOf({.path = *target});
+  });
+}
+
 void MainWindow::scrollToTops() {
   for (ListView* list : findChildren<ListView*>()) list->scrollToTop();
 }
@@ -121,7 +155,10 @@ void MainWindow::rest() {
   status_->rest();
   const std::uint64_t listed =
       opening_.ListActors.itemChanges() + opening_.ListChannels.itemChanges();
-  if (std::exchange(opens_, false) && listed != listed_) scrollToTops();
+  if (std::exchange(opens_, false) && listed != listed_) {
+    scrollToTops();
+    status_->withdraw();
+  }
   listed_ = listed;
 }
 

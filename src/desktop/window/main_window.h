@@ -57,6 +57,8 @@ class MainWindow : public QMainWindow {
   bool showsClosingAnimation() const;
   void listenToMenus();
   void tellOfUntakenPaths();
+  void tellOf(const front::FinishedFile& file);
+  void saveCopyOf(const std::string& path);
   void scrollToTops();
 
   Maker& maker_;

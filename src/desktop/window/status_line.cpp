@@ -1,5 +1,6 @@
 #include "desktop/window/status_line.h"
 
+#include "desktop/theme.h"
 #include "text/number_text.h"
 
 #include <QLabel>
@@ -9,12 +10,24 @@
 namespace norvik::desktop {
 
 StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
-    : state_(new QLabel(&bar)), progress_(new QProgressBar(&bar)) {
+    : state_(new QLabel(&bar)), result_(new QLabel(&bar)), progress_(new QProgressBar(&bar)) {
   constexpr int kPermille = 1000;
   constexpr int kWidth = 180;
   state_->setObjectName(QStringLiteral("StatusText"));
   state_->setContentsMargins(6, 0, 0, 0);
-  bar.addWidget(state_, 1);
+  bar.addWidget(state_);
+  result_->setObjectName(QStringLiteral("Result"));
+  result_->setAccessibleName(QStringLiteral("What the last tool has left"));
+  result_->setTextFormat(Qt::RichText);
+  result_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  bar.addWidget(result_, 1);
+  QObject::connect(result_, &QLabel::linkActivated, result_, [this](const QString& link) {
+    const auto index = static_cast<std::size_t>(link.toUInt());
+    if (index >= actions_.size()) return;
+    // What it does may be followed by another offer.
+    const std::function<void()> act = actions_[index].act;
+    act();
+  });
   progress_->setObjectName(QStringLiteral("Progress"));
   progress_->setAccessibleName(QStringLiteral("Progress"));
   progress_->setRange(0, kPermille);
@@ -43,6 +56,24 @@ void StatusLine::setBusy(bool busy) {
 
 void StatusLine::say(const QString& text) {
   state_->setText(text);
+}
+
+void StatusLine::offer(const QString& text, const QString& tip, std::vector<ResultAction> actions) {
+  actions_ = std::move(actions);
+  const QString colour = accentOf(result_->palette()).name();
+  QString line = text.toHtmlEscaped();
+  for (std::size_t i = 0; i < actions_.size(); ++i) {
+    line += QStringLiteral(" &nbsp;<a href=\"%1\" style=\"color: %2\">%3</a>")
+                .arg(QString::number(i), colour, actions_[i].name.toHtmlEscaped());
+  }
+  result_->setText(line);
+  result_->setToolTip(tip);
+}
+
+void StatusLine::withdraw() {
+  actions_.clear();
+  result_->clear();
+  result_->setToolTip(QString());
 }
 
 void StatusLine::rest() {

@@ -5,6 +5,8 @@
 #include "front/opening.h"
 
 #include <cstdint>
+#include <functional>
+#include <vector>
 
 class QLabel;
 class QProgressBar;
@@ -12,7 +14,13 @@ class QStatusBar;
 
 namespace norvik::desktop {
 
-/// What goes on, how far it is, and the size of the file.
+/// What can be done with a result: the link's text, and what it does.
+struct ResultAction {
+  QString name;
+  std::function<void()> act;
+};
+
+/// What goes on, how far it is, what the last tool has left, and the size of the file.
 class StatusLine {
  public:
   StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar);
@@ -20,6 +28,10 @@ class StatusLine {
   void setBusy(bool busy);
   /// Says something until the next work begins or ends.
   void say(const QString& text);
+  /// Says what a tool has left, and offers what can be done with it, until the next result or until
+  /// it is withdrawn. The tip says where it lies.
+  void offer(const QString& text, const QString& tip, std::vector<ResultAction> actions);
+  void withdraw();
   /// No pass is under way any more.
   void rest();
   /// How far a long pass has read its file; files that are read at once show nothing.
@@ -27,6 +39,8 @@ class StatusLine {
 
  private:
   QLabel* state_;
+  QLabel* result_;
+  std::vector<ResultAction> actions_;
   QProgressBar* progress_;
 };
 
