@@ -6,6 +6,9 @@
 #include "front/list_box.h"
 #include "front/text_controls.h"
 
+#include <string>
+#include <vector>
+
 namespace norvik::pose {
 
 class FormMOR : public front::Form {
@@ -17,7 +20,13 @@ class FormMOR : public front::Form {
   }
 
   /// Gives everything the state in which the form is shown.
-  void restoreStart() { start_.restore(); }
+  void restoreStart() {
+    start_.restore();
+    actors.clear();
+  }
+
+  /// The actor of each morph, for those who look at the list; the tool needs no actors.
+  std::vector<std::string> actors;
 
   /// The source's path.
   front::Label LabelFileName{*this, "LabelFileName"};

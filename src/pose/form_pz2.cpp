@@ -30,6 +30,7 @@ void FormPZ2::restoreStart() {
   start_.restore();
   path.clear();
   propLine.clear();
+  changedColours.clear();
   ++showings;
 }
 

@@ -8,6 +8,7 @@
 #include "front/plain_controls.h"
 #include "front/text_controls.h"
 
+#include <set>
 #include <string>
 
 namespace norvik::pose {
@@ -28,7 +29,9 @@ class FormPZ2 : public front::Form {
 
   std::string path;      ///< the file that the lists were filled from
   std::string propLine;  ///< the first `prop` line of hair: it heads the MAT file
-  int showings = 0;      ///< how often the form began afresh, for a pass that events interrupt
+  /// The items of ListMATColors that the operator has changed, for those who look at the list.
+  std::set<int> changedColours;
+  int showings = 0;  ///< how often the form began afresh, for a pass that events interrupt
 
   front::Label LabelMAT{*this, "LabelMAT", "MAT File"};
   /// The source's path.

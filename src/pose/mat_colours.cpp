@@ -36,6 +36,7 @@ void changeColour(front::Session& session, FormPZ2& form) {
   const auto colour = session.front.colourDialog(form.ShapePresentColor.back());
   if (!colour) return;
   form.ShapeNewColor.setBack(*colour);
+  form.changedColours.insert(index);
   form.ListMATColors.setItem(index, entryOf(*colour));
 }
 

@@ -81,6 +81,7 @@ class Skeleton {
   void addChannel(std::string_view name, std::string_view line) {
     form_.ListMorphs.add(name);
     form_.ListValues.add("0");
+    form_.actors.emplace_back(text::from(actor_, 7));
     writeChannel(out_, line, "\t\t\tk 0 0");
   }
 

@@ -1,7 +1,9 @@
 #include "text/line_on_hand.h"
 
+#include "text/classic_errors.h"
 #include "text/columns.h"
 
+#include <utility>
 #include <vector>
 
 namespace norvik::text {
@@ -40,6 +42,12 @@ LineOnHand::LineOnHand(const Disk& disk, std::string_view path, Read read)
 
 void LineOnHand::reopen() {
   in_ = LineReader(disk_, path_);
+}
+
+void LineOnHand::reopenAt(std::uint64_t position) {
+  auto file = disk_.openForReading(path_);
+  raise(file->seek(position), path_, FileAct::reading);
+  in_ = LineReader(std::move(file));
 }
 
 const std::string& LineOnHand::read() {

@@ -6,6 +6,7 @@
 #include "text/line_reader.h"
 #include "text/line_writer.h"
 
+#include <cstdint>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -34,6 +35,10 @@ class LineOnHand {
 
   /// Begins at the start of the file again. Throws as the constructor does; then nothing changes.
   void reopen();
+  /// Goes on behind that many bytes of the file. An error of a later read names no file.
+  void reopenAt(std::uint64_t position);
+  /// Bytes from the start of the file to the next read; not behind reopenAt.
+  std::uint64_t position() const { return in_.position(); }
 
   bool atEnd() { return in_.atEnd(); }
   const std::string& line() const { return line_; }

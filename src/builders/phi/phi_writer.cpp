@@ -56,30 +56,41 @@ bool PhiWriter::write() {
   return true;
 }
 
+void PhiWriter::readNoted() {
+  in_.read();
+  index_.note(in_.line(), in_.position());
+}
+
 void PhiWriter::readHeaders() {
+  const auto isReference = [this](std::string_view line) {
+    index_.note(line, in_.position());
+    return holds(line, kReference);
+  };
   while (!in_.atEnd()) {
     if (numbers_.empty()) {
-      in_.read();
+      readNoted();
       ++fields_;
       if (!holds(in_.line(), kReference)) continue;
     } else {
       // Behind the first header nothing needs to be counted.
       in_.setLine({});
-      if (!in_.searchUntil(holding(kReference), {kReference})) return;
+      if (!in_.searchUntil(isReference, {kReference, PhiIndex::kActor, PhiIndex::kChain})) break;
     }
     readHeaderBehind();
   }
+  index_.lastField = in_.line();
 }
 
 /// What stands behind a reference. A figure begins where a closing bracket is next but one behind
 /// the actor, an empty line apart; the actor's last character is the figure's number.
 void PhiWriter::readHeaderBehind() {
   geometry_ = text::from(in_.line(), 15);
-  const std::string actor = in_.read();
-  in_.read();
-  in_.read();
+  readNoted();
+  const std::string actor = in_.line();
+  readNoted();
+  readNoted();
   if (in_.line().empty()) {
-    in_.read();
+    readNoted();
     // Though one line was read: with this count the hip's storage block is jumped over.
     fields_ += 3;
   }
@@ -137,10 +148,7 @@ void PhiWriter::writeSpine(std::string_view partInMessage) {
 bool PhiWriter::writePart(const PhiPart& part, const std::string& number) {
   if (part.counter != PhiPart::kCounterStays) depth_ = part.counter;
   const std::string sought = "actor " + std::string{part.name} + ":" + number;
-  text::ignoringErrors([&] {
-    in_.reopen();
-    in_.searchUntil([&](std::string_view line) { return line == sought; }, {sought});
-  });
+  findPart(sought);
   if (in_.line() == "}") return true;
   std::string line = lineHead();
   // The letters are those that come next behind the line that was found. In a usual figure that
@@ -148,6 +156,18 @@ bool PhiWriter::writePart(const PhiPart& part, const std::string& number) {
   if (!addLetters(line, [&] { return checkLimb(line, sought); })) return false;
   out_.line(line);
   return true;
+}
+
+/// Reads the figure up to the part's line, which may be on hand already. For a part that is not
+/// there the last line is on hand.
+void PhiWriter::findPart(const std::string& sought) {
+  const bool missing = in_.line() != sought && !index_.has(sought);
+  // A figure that ends otherwise is read to its end: that is an error then.
+  if (missing && index_.lastField == "}") return in_.setLine("}");
+  text::ignoringErrors([&] {
+    in_.reopen();
+    in_.searchUntil([&](std::string_view line) { return line == sought; }, {sought});
+  });
 }
 
 /// The start of the line for the actor on hand, which is one step deeper.
@@ -207,12 +227,24 @@ void PhiWriter::writeChains() {
   in_.reopen();
   out_.line(" ");
   text::ignoringErrors([&] {
+    if (!findChain()) return;
     for (int chain = 0; chain < kMostChains; ++chain) writeChain();
   });
 }
 
+/// The line on hand may be a chain's already: what is read behind it then stands at the figure's
+/// start. False in a figure without chains.
+bool PhiWriter::findChain() {
+  if (begins(in_.line(), PhiIndex::kChain)) return true;
+  if (!index_.chain()) return false;
+  in_.reopenAt(index_.chain()->behind);
+  in_.setLine(index_.chain()->field);
+  return true;
+}
+
 void PhiWriter::writeChain() {
-  in_.readUntil([](std::string_view line) { return begins(line, "inkyChain"); }, {"inkyChain"});
+  in_.readUntil([](std::string_view line) { return begins(line, PhiIndex::kChain); },
+                {PhiIndex::kChain});
   in_.read();
   in_.read();
   in_.read();

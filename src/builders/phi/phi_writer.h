@@ -1,6 +1,7 @@
 #pragma once
 // The text of a phi file, drawn from a figure.
 
+#include "builders/phi/phi_index.h"
 #include "builders/phi/phi_parts.h"
 #include "front/session.h"
 #include "text/line_on_hand.h"
@@ -24,12 +25,15 @@ class PhiWriter {
   bool write();
 
  private:
+  void readNoted();
   void readHeaders();
   void readHeaderBehind();
   bool writeFigure(const std::string& number);
   void writeHip(const std::string& number);
   void writeSpine(std::string_view partInMessage);
   bool writePart(const PhiPart& part, const std::string& number);
+  void findPart(const std::string& sought);
+  bool findChain();
   void writeChains();
   void writeChain();
 
@@ -43,6 +47,7 @@ class PhiWriter {
   std::string figure_;
   text::LineWriter& out_;
   text::LineOnHand in_;
+  PhiIndex index_;
   std::string geometry_;              ///< of the last reference
   std::vector<std::string> numbers_;  ///< one a figure: the character that tells its body parts
   std::uint64_t firstHeader_ = 0;     ///< how many fields lead past the first figure's header

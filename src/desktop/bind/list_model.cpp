@@ -62,11 +62,16 @@ void ListModel::findRows() {
     while (behind < count_ && list_.item(behind).starts_with('\t')) ++behind;
     bool wanted = false;
     for (int i = first; i < behind && !wanted; ++i) {
-      wanted = shown(list_.item(i)).contains(filter_, Qt::CaseInsensitive);
+      wanted = takes(i);
     }
     for (int i = first; i < behind && wanted; ++i) rows_.push_back(i);
     first = behind;
   }
+}
+
+bool ListModel::takes(int item) const {
+  if (shown(list_.item(item)).contains(filter_, Qt::CaseInsensitive)) return true;
+  return further_ && further_(item).contains(filter_, Qt::CaseInsensitive);
 }
 
 int ListModel::item(int row) const {

@@ -6,6 +6,8 @@
 #include <QAbstractListModel>
 #include <QString>
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace norvik::desktop {
@@ -30,6 +32,8 @@ class ListModel : public QAbstractListModel {
   /// with a tab belong to the one above that does not. An empty text shows all.
   void setFilter(const QString& text);
   bool filtered() const { return !filter_.isEmpty(); }
+  /// What a filter looks at beside an item's own text.
+  void setFurtherText(std::function<QString(int item)> text) { further_ = std::move(text); }
 
   /// How many items there were at the last update, shown or not.
   int items() const { return count_; }
@@ -42,12 +46,14 @@ class ListModel : public QAbstractListModel {
 
  private:
   void findRows();
+  bool takes(int item) const;
 
   front::ListBox& list_;
   std::uint64_t seen_;
   int count_;              ///< of the items when they were last looked at
   std::vector<int> rows_;  ///< the items' indexes, while there is a filter
   QString filter_;
+  std::function<QString(int)> further_;
   bool tickable_ = false;
 };
 

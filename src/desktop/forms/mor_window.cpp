@@ -1,12 +1,15 @@
 #include "desktop/forms/mor_window.h"
 
+#include "desktop/bind/list_model.h"
 #include "desktop/forms/pose_parts.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/words.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace norvik::desktop {
@@ -17,14 +20,21 @@ constexpr int kWidth = 460;
 constexpr int kHeight = 600;
 constexpr int kValueWidth = 120;
 
-/// The morphs with their values; one that is not 0 stands out.
+/// The morphs with their values under their actors; a value that is not 0 stands out.
 ListView& makeMorphs(Maker& maker, pose::FormMOR& form, QWidget& parent) {
   ListView& morphs = maker.list(form.ListMorphs, parent);
   const front::ListBox& values = form.ListValues;
+  const auto actorOf = [&form](int item) {
+    const auto index = static_cast<std::size_t>(item);
+    return index < form.actors.size() ? shown(form.actors[index]) : QString();
+  };
+  if (auto* model = dynamic_cast<ListModel*>(morphs.model())) model->setFurtherText(actorOf);
+  morphs.setUniformItemSizes(false);
   morphs.setItemDelegate(
       new NotedRows({.chip = {},
                      .note = [&values](int row) { return shown(values.item(row)); },
-                     .marked = [&values](int row) { return values.item(row) != "0"; }},
+                     .marked = [&values](int row) { return values.item(row) != "0"; },
+                     .heading = actorOf},
                     &morphs));
   maker.watch({&form.ListValues}, [&morphs] { morphs.viewport()->update(); });
   return morphs;
@@ -40,6 +50,11 @@ MorWindow::MorWindow(const WindowParts& parts, pose::FormMOR& form)
   makeFileHeading(file, QStringLiteral("Source file"));
   column->addWidget(&file);
   ListView& morphs = makeMorphs(maker(), form, *this);
+  auto* filter = new ListFilter(form.ListMorphs, morphs, *this);
+  filter->show();
+  column->addWidget(filter);
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { openFilter(*this); });
   column->addLayout(makeColumn(QStringLiteral("Morphs"), &morphs), 1);
 
   auto* line = new QHBoxLayout;

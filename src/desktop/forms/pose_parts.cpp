@@ -18,6 +18,17 @@ namespace {
 constexpr int kAir = 5;
 constexpr int kChip = 14;
 constexpr int kGap = 6;
+constexpr int kHeadingAir = 10;
+
+/// The index of a row's item, which a filter makes another.
+int itemAt(const QModelIndex& index) {
+  const auto* items = dynamic_cast<const ListModel*>(index.model());
+  return items == nullptr ? index.row() : items->item(index.row());
+}
+
+int headingHeight(const QStyleOptionViewItem& option) {
+  return option.fontMetrics.height() + kHeadingAir;
+}
 
 }  // namespace
 
@@ -25,13 +36,43 @@ NotedRows::NotedRows(RowNotes notes, QObject* parent)
     : QStyledItemDelegate(parent), notes_(std::move(notes)) {}
 
 QSize NotedRows::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kAir);
+  const int heading = headingOver(index).isEmpty() ? 0 : headingHeight(option);
+  return QStyledItemDelegate::sizeHint(option, index) + QSize(0, kAir + heading);
+}
+
+/// Empty over a row whose heading is that of the row before.
+QString NotedRows::headingOver(const QModelIndex& index) const {
+  if (!notes_.heading) return {};
+  const QString heading = notes_.heading(itemAt(index));
+  const QModelIndex before = index.siblingAtRow(index.row() - 1);
+  return before.isValid() && notes_.heading(itemAt(before)) == heading ? QString() : heading;
+}
+
+/// Leaves the rest of the row's room to its item.
+void NotedRows::paintHeading(QPainter& painter, QStyleOptionViewItem& row,
+                             const QString& heading) const {
+  QRect room = row.rect.adjusted(kGap, 0, -kGap, 0);
+  room.setHeight(headingHeight(row));
+  row.rect.setTop(room.bottom() + 1);
+  QFont font = row.font;
+  font.setBold(true);
+  painter.save();
+  painter.setFont(font);
+  painter.setPen(row.palette.color(QPalette::Text));
+  painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter,
+                   QFontMetrics(font).elidedText(heading, Qt::ElideMiddle, room.width()));
+  painter.setPen(row.palette.color(QPalette::Mid));
+  painter.drawLine(room.left(), room.bottom(), room.right(), room.bottom());
+  painter.restore();
 }
 
 void NotedRows::paint(QPainter* painter, const QStyleOptionViewItem& option,
                       const QModelIndex& index) const {
   QStyleOptionViewItem row(option);
   initStyleOption(&row, index);
+  const int number = itemAt(index);
+  const QString heading = headingOver(index);
+  if (!heading.isEmpty()) paintHeading(*painter, row, heading);
   const QString item = std::exchange(row.text, QString());
   const QStyle* style = row.widget != nullptr ? row.widget->style() : QApplication::style();
   style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
@@ -42,16 +83,16 @@ void NotedRows::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const QPalette::ColorRole ink = selected ? QPalette::HighlightedText : QPalette::Text;
   if (notes_.chip) {
     const QRect chip(room.left(), room.center().y() - kChip / 2, kChip, kChip);
-    const QColor colour = notes_.chip(index.row());
+    const QColor colour = notes_.chip(number);
     painter->setPen(row.palette.color(QPalette::Mid));
     painter->setBrush(colour.isValid() ? QBrush(colour) : QBrush(Qt::NoBrush));
     painter->drawRect(chip);
     room.setLeft(chip.right() + kGap);
   }
   if (notes_.note) {
-    const QString note = notes_.note(index.row());
+    const QString note = notes_.note(number);
     const int width = row.fontMetrics.horizontalAdvance(note);
-    const bool marked = notes_.marked && notes_.marked(index.row());
+    const bool marked = notes_.marked && notes_.marked(number);
     QColor colour = row.palette.color(ink);
     if (marked && !selected) colour = accentOf(row.palette);
     QFont font = row.font;

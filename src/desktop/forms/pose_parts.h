@@ -14,14 +14,16 @@ class QPushButton;
 
 namespace norvik::desktop {
 
-/// What stands in the row of a list beside its item: a chip of a colour in front, a text behind.
+/// What stands in the row of a list beside its item: a heading over it, a chip of a colour in
+/// front, a text behind.
 struct RowNotes {
-  std::function<QColor(int row)> chip;   ///< an invalid colour for none
-  std::function<QString(int row)> note;  ///< empty for none
-  std::function<bool(int row)> marked;   ///< whether the note stands out
+  std::function<QColor(int item)> chip;      ///< an invalid colour for none
+  std::function<QString(int item)> note;     ///< empty for none
+  std::function<bool(int item)> marked;      ///< whether the note stands out
+  std::function<QString(int item)> heading;  ///< over the first row of those that share it
 };
 
-/// Draws a list's rows with their notes.
+/// Draws a list's rows with their notes. With headings the rows are not of one height.
 class NotedRows : public QStyledItemDelegate {
  public:
   NotedRows(RowNotes notes, QObject* parent);
@@ -31,6 +33,9 @@ class NotedRows : public QStyledItemDelegate {
              const QModelIndex& index) const override;
 
  private:
+  QString headingOver(const QModelIndex& index) const;
+  void paintHeading(QPainter& painter, QStyleOptionViewItem& row, const QString& heading) const;
+
   RowNotes notes_;
 };
 

@@ -126,15 +126,19 @@ QWidget* PoseWindow::makeMat() {
   column->setContentsMargins(0, 0, 0, 0);
   auto* lists = new QHBoxLayout;
   ListView& materials = maker().list(form_.ListMaterialsMAT, *page);
-  materials.setItemDelegate(new NotedRows({.chip =
-                                               [this](int row) {
-                                                 const auto colour = pose::entryColour(
-                                                     form_.ListMATColors.item(row));
-                                                 return colour ? toColor(*colour) : QColor();
-                                               },
-                                           .note = {},
-                                           .marked = {}},
-                                          &materials));
+  materials.setItemDelegate(new NotedRows(
+      {.chip =
+           [this](int row) {
+             const auto colour = pose::entryColour(form_.ListMATColors.item(row));
+             return colour ? toColor(*colour) : QColor();
+           },
+       .note =
+           [this](int item) {
+             return form_.changedColours.contains(item) ? QStringLiteral("changed") : QString();
+           },
+       .marked = [](int) { return true; },
+       .heading = {}},
+      &materials));
   maker().watch({&form_.ListMATColors}, [&materials] { materials.viewport()->update(); });
   materials.setToolTip(QStringLiteral("Double click to choose, right click to change the color"));
   lists->addLayout(makeColumn(QStringLiteral("Materials"), &materials));

@@ -73,7 +73,8 @@ void WeldWindow::addFirst(QGridLayout& sides) {
   morphs.setItemDelegate(
       new NotedRows({.chip = {},
                      .note = [&keys](int row) { return shown(valueOf(keys.item(row))); },
-                     .marked = {}},
+                     .marked = {},
+                     .heading = {}},
                     &morphs));
   sides.addLayout(makeColumn(QStringLiteral("Morphs"), &morphs), kLists, 0);
   sides.addWidget(&maker().label(form_.LabelKey1, *this), kFeet, 0);
@@ -94,7 +95,8 @@ void WeldWindow::addSecond(QGridLayout& sides) {
   morphs.setItemDelegate(
       new NotedRows({.chip = {},
                      .note = [&keys](int row) { return shown(valueOf(keys.item(row))); },
-                     .marked = [this](int row) { return differs(form_, row); }},
+                     .marked = [this](int row) { return differs(form_, row); },
+                     .heading = {}},
                     &morphs));
   sides.addLayout(makeColumn(QStringLiteral("Settings to carry over"), &morphs), kLists, 1);
   auto* foot = new QHBoxLayout;
