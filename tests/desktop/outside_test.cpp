@@ -3,7 +3,9 @@
 #include "desktop/bench.h"
 #include "desktop/words.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QHostAddress>
 #include <QTcpServer>
@@ -123,6 +125,41 @@ TEST_F(OutsideTest, PagesAndDocumentsGoToTheDesktop) {
   ASSERT_EQ(catcher.taken.size(), 2);
   EXPECT_EQ(catcher.taken[0], QUrl(QStringLiteral("http://norvik.invalid/page.htm")));
   EXPECT_EQ(catcher.taken[1].toLocalFile(), hostFile("Manual/Welcome.htm"));
+}
+
+/// The environment with another value of a variable, while it lives.
+class Variable {
+ public:
+  Variable(const char* name, const std::string& value) : name_(name), before_(qgetenv(name)) {
+    qputenv(name_, QByteArray::fromStdString(value));
+  }
+  Variable(const Variable&) = delete;
+  Variable& operator=(const Variable&) = delete;
+  ~Variable() { qputenv(name_, before_); }
+
+ private:
+  const char* name_;
+  QByteArray before_;
+};
+
+TEST_F(OutsideTest, WithoutABrowserTheGuideIsNamedByItsPlace) {
+  const AddressCatcher catcher;
+  write("xdg-settings", "#!/bin/sh\n");
+  std::filesystem::permissions(folder.path() + "/xdg-settings", std::filesystem::perms::owner_all);
+  const Variable path("PATH", folder.path() + ":" + qgetenv("PATH").toStdString());
+  const QString guide = QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                                        QStringLiteral("/../share/doc/norvik"));
+  ASSERT_TRUE(QDir().mkpath(guide));
+  QFile page(guide + QStringLiteral("/window.md"));
+  ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+  qunsetenv("BROWSER");
+  frontEnd.openDocument("Open", "http://norvik.invalid/manual.htm", "");
+  EXPECT_TRUE(catcher.taken.isEmpty());
+  ASSERT_EQ(asker.boxes.size(), 1U);
+  EXPECT_EQ(asker.boxes[0].text, QStringLiteral("Nothing on this system opens "
+                                                "http://norvik.invalid/manual.htm"));
+  EXPECT_EQ(asker.boxes[0].note, QStringLiteral("The guide lies in ") + guide);
+  EXPECT_TRUE(page.remove());
 }
 
 TEST_F(OutsideTest, TheTextEditorIsTheDesktopsOwn) {

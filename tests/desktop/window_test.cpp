@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
+#include <algorithm>
 #include <set>
 
 namespace norvik::desktop {
@@ -102,13 +103,34 @@ TEST_F(WindowTest, F11IsAFullScreenAndBack) {
   EXPECT_FALSE(window().isFullScreen());
 }
 
-TEST_F(WindowTest, AWindowComesUpWholeOnItsScreen) {
-  const QRect room = window().screen()->availableGeometry();
-  window().resize(4000, 3000);
-  window().move(room.right() - 50, room.bottom() - 50);
-  keepOnScreen(window());
+TEST_F(WindowTest, AWindowComesUpWholeOnTheScreenThatItIsOn) {
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    const QRect room = screen->availableGeometry();
+    window().resize(4000, 3000);
+    window().move(room.center() - QPoint(2000, 1500));
+    QTest::qWait(20);
+    keepOnScreen(window());
+    QTest::qWait(20);
+    EXPECT_TRUE(room.contains(window().frameGeometry())) << screen->name().toStdString();
+    const int inside = std::min(room.width(), room.height()) / 4;
+    window().resize(inside, inside);
+    window().move(room.topLeft() - QPoint(inside / 4, inside / 4));
+    QTest::qWait(20);
+    keepOnScreen(window());
+    QTest::qWait(20);
+    EXPECT_TRUE(room.contains(window().frameGeometry())) << screen->name().toStdString();
+  }
+}
+
+TEST_F(WindowTest, NoRowOfThePathsCoversAnotherOnASmallScreen) {
+  window().setMinimumSize(1, 1);
+  window().resize(640, 450);
   QTest::qWait(20);
-  EXPECT_TRUE(room.contains(window().frameGeometry()));
+  const QRect props = find<QWidget>("ListPropObj").geometry();
+  EXPECT_GT(props.top(), find<QWidget>("TextMainOBJ").geometry().bottom());
+  EXPECT_LT(props.bottom(), find<QWidget>("TextMainTex").geometry().top());
+  EXPECT_GE(find<QWidget>("TextMainTex").height(),
+            find<QWidget>("TextMainTex").sizeHint().height());
 }
 
 TEST_F(WindowTest, TheFocusIsSeenOnWhateverTakesIt) {
@@ -153,6 +175,14 @@ TEST_F(WindowTest, TheClosingAnimationCanBeTurnedOff) {
   entry->trigger();
   EXPECT_EQ(session().settings.get(kWindowSection, kClosingAnimationKey, ""), "off");
   EXPECT_FALSE(window().drawTile(0, 0));
+}
+
+TEST_F(WindowTest, TheClosingAnimationIsOffWhereTheDesktopDoesWithoutAny) {
+  const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+  std::ofstream(folder_.path() + "/kdeglobals") << "[KDE]\nAnimationDurationFactor=0\n";
+  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_.path()));
+  EXPECT_FALSE(window().drawTile(0, 0));
+  before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
 }
 
 }  // namespace

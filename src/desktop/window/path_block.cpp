@@ -58,9 +58,12 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
       paths.push_back(watchTyping(maker, *row.box, row.label, edit, *grid, line));
       value = &edit;
     } else {
-      constexpr int kRows = 2;
+      // Two rows; one where the screen has no room for them.
       auto& props = maker.list(opening.ListPropObj, *frame);
-      props.setFixedHeight((props.fontMetrics().height() + 5) * kRows + 6);
+      const int height = props.fontMetrics().height() + 5;
+      constexpr int kFrame = 6;
+      props.setMinimumHeight(height + kFrame);
+      props.setMaximumHeight(2 * height + kFrame);
       value = &props;
     }
     value->setAccessibleName(QString::fromStdString(row.label.caption()));
@@ -74,7 +77,7 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
   rule->setFixedHeight(1);
   maker.shape(opening.LineObj, *rule);
   outside->addWidget(rule);
-  block->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  block->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 
   maker.showWhileAny(*block, {&opening.Shape1, &opening.LabelMainOBJPath, &opening.TextMainOBJ,
                               &opening.LabelMainTex, &opening.TextMainTex, &opening.TextMainBump,
