@@ -47,6 +47,8 @@ struct FileDialog {
   std::string file{};     ///< the proposed name
   std::string purpose{};  ///< what the file is for, as a window's title says it; may be empty
   std::string hint{};     ///< what a window adds to that; may be empty
+  /// A further button of a window, which answers with an empty path; empty: none.
+  std::string instead{};
 };
 
 /// The outcome of a fetch over the network. `error` is 0 when the front end does not fetch at all.
@@ -59,6 +61,13 @@ struct Fetched {
 struct Screen {
   float width = 0;   ///< in twips
   float height = 0;  ///< in twips
+};
+
+/// What became of a program that was to be waited for.
+enum class ProgramRun {
+  notStarted,    ///< nothing here can start it
+  ended,         ///< it ended, or the operator waits no longer
+  leftToCaller,  ///< this front end starts nothing; whoever asked does the work
 };
 
 /// Thrown by a front end whose operator is gone: a script without an answer to a box, a window that
@@ -115,6 +124,11 @@ class FrontEnd {
                             std::string_view folder) = 0;
   /// Starts a command line in a normal window.
   virtual void run(std::string_view commandLine) = 0;
+  /// Starts a program, which is there, with arguments, and waits until it has ended.
+  virtual ProgramRun runToEnd(std::string_view program,
+                              const std::vector<std::string>& arguments) = 0;
+  /// Puts a file into the system's waste bin; false, and nothing done, where there is none.
+  virtual bool moveToWasteBin(std::string_view path) = 0;
   /// Plays a sound and does not wait for its end; a missing file plays nothing.
   virtual void playSound(std::string_view path) = 0;
   /// The operating system's own folder.
