@@ -37,6 +37,13 @@
 #include "front/help_boxes.h"
 #include "front/history_limits.h"
 #include "front/scratch_files.h"
+#include "install/cr2_files.h"
+#include "install/figure_files.h"
+#include "install/installation.h"
+#include "install/library_folders.h"
+#include "install/remove_files.h"
+#include "install/renumber.h"
+#include "install/target_folders.h"
 #include "lifecycle/closing_animation.h"
 #include "lifecycle/exit.h"
 #include "lifecycle/file_menu.h"
@@ -45,21 +52,21 @@
 #include "lifecycle/start.h"
 #include "materials/material_colour.h"
 #include "materials/material_coordinator.h"
-#include "workshop/fall_back_view.h"
-#include "workshop/hot_keys.h"
 #include "obj/leaving.h"
-#include "workshop/open_workshop.h"
-#include "workshop/play.h"
-#include "workshop/reset.h"
-#include "workshop/spin.h"
-#include "workshop/view.h"
-#include "workshop/view_keys.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_colours.h"
 #include "pose/mor_builder.h"
 #include "pose/pz2_editor.h"
 #include "pose/weld.h"
 #include "text/history.h"
+#include "workshop/fall_back_view.h"
+#include "workshop/hot_keys.h"
+#include "workshop/open_workshop.h"
+#include "workshop/play.h"
+#include "workshop/reset.h"
+#include "workshop/spin.h"
+#include "workshop/view.h"
+#include "workshop/view_keys.h"
 
 namespace norvik::workbench {
 
@@ -76,6 +83,9 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formPZ2_);
   session_.addForm(formMOR_);
   session_.addForm(formPZ2Combine_);
+  session_.addForm(formCR2Install_);
+  session_.addForm(formRemoveFiles_);
+  session_.addForm(formRenumber_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -145,6 +155,14 @@ void Workbench::wireTools() {
   obj::wireLeaving(workshop_);
   obj::wireSpin(workshop_);
   obj::wireViewKeys(workshop_);
+  install::wireInstallMenu(session_, installerView_);
+  install::wirePrintCR2Files(session_);
+  install::wireTargetFolders(session_, formCR2Install_);
+  install::wireInstallation(session_, formCR2Install_, installerView_);
+  install::wireLibraryFolders(session_, formCR2Install_);
+  install::wireFigureFiles(session_, formRemoveFiles_);
+  install::wireRemoveFiles(session_, formRemoveFiles_);
+  install::wireRenumber(session_, formRenumber_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);

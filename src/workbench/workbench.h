@@ -8,6 +8,10 @@
 #include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
+#include "install/form_cr2_install.h"
+#include "install/form_remove_files.h"
+#include "install/form_renumber.h"
+#include "install/install_menu.h"
 #include "materials/form_mat_coord.h"
 #include "workshop/workshop.h"
 #include "pose/form_mor.h"
@@ -47,8 +51,12 @@ class Workbench {
   pose::FormPZ2 formPZ2_;
   pose::FormMOR formMOR_;
   pose::FormPZ2Combine formPZ2Combine_;
+  install::FormCR2Install formCR2Install_;
+  install::FormRemoveFiles formRemoveFiles_;
+  install::FormRenumber formRenumber_;
   front::Session session_;
   obj::Workshop workshop_;
+  install::InstallerView installerView_{opening_};
 };
 
 }  // namespace norvik::workbench
