@@ -61,7 +61,8 @@ void save(front::Session& session, const std::string& scratch, const std::string
   const front::Answer answer = session.front.messageBox(
       "Control Ratio changed to " + ratio + ".  Save changes?", "Note!", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  if (figure::chooseSavePath(session, figure) == figure) session.disk.replace(scratch, figure);
+  if (figure::chooseSavePath(session, figure, "Save the figure with the new ratio") == figure)
+    session.disk.replace(scratch, figure);
 }
 
 void changeRatio(front::Session& session, FormListEMCs& form) {

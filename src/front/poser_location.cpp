@@ -9,8 +9,7 @@ bool askForPoser(Session& session, std::string_view title) {
       session.front, session.disk.currentFolder(), title,
       {"Where is Poser.exe?", "Poser's program|*.exe|All files|*.*",
        "Norvik looks beside it for the meshes and textures that figures name. Without Poser, "
-       "Cancel "
-       "is fine: the place can be told later, with File, Poser Location."});
+       "Cancel is fine: the place can be told later, with File, Poser Location."});
 }
 
 void storePoserLocation(Session& session) {

@@ -6,7 +6,7 @@
 namespace norvik::front {
 
 /// Shows the dialog that asks for Poser's program file. Whether it was accepted.
-bool askForPoser(Session& session, std::string_view title = "Open");
+bool askForPoser(Session& session, std::string_view title = {});
 
 /// Stores the folder of the program that the dialog names last: its name is taken as nine
 /// characters long, whatever it is; empty for one of nine characters or fewer.

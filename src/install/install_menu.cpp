@@ -91,7 +91,7 @@ std::string unpack(front::Session& session, const std::string& zip) {
 std::optional<std::string> unpackedFigure(front::Session& session) {
   if (!settleUnzipper(session) || !settlePoser(session)) return std::nullopt;
   front::CommonDialog& dialog = session.opening.CommonDialogZip;
-  if (!dialog.open(session.front, stagingFolder(session.opening), "Open",
+  if (!dialog.open(session.front, stagingFolder(session.opening), {},
                    {"Which zip file holds the figure?", "Zip files|*.zip|All files|*.*", ""})) {
     return std::nullopt;
   }
