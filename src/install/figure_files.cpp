@@ -94,7 +94,9 @@ class FileLister {
   std::set<std::string> listed_;
 };
 
-void listFiles(front::Session& session, front::ListBox& list) {
+}  // namespace
+
+void listFigureFiles(front::Session& session, front::ListBox& list) {
   static const text::LineFilter mayName{anywhere("figureRes"), anywhere("objFile"), anywhere("Map"),
                                         anywhere("\"")};
   front::readPoserLocation(session);
@@ -109,15 +111,13 @@ void listFiles(front::Session& session, front::ListBox& list) {
   }
 }
 
-}  // namespace
-
 void wireFigureFiles(front::Session& session, FormRemoveFiles& form) {
   session.opening.menuFilesRemove.clicked.add([&session, &form] { session.load(form); });
   form.loading.add([&session, &form] {
     form.restoreStart();
     form.Drive1.setPath(text::raised(text::leftmost(session.disk.currentFolder(), 2)));
   });
-  form.shown.add([&session, &form] { listFiles(session, form.ListFiles); });
+  form.shown.add([&session, &form] { listFigureFiles(session, form.ListFiles); });
   form.OptionBackup.clicked.add([&form] {
     form.LabelDrive.show();
     form.Drive1.show();

@@ -10,6 +10,9 @@
 
 namespace norvik::install {
 
+/// Adds the destination's files to a list, each path once, and tells of those that are not there.
+void listFigureFiles(front::Session& session, front::ListBox& list);
+
 void wireFigureFiles(front::Session& session, FormRemoveFiles& form);
 
 }  // namespace norvik::install

@@ -1,5 +1,6 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/cr2_install_window.h"
 #include "desktop/forms/link_dialog_window.h"
 #include "desktop/forms/link_window.h"
 #include "desktop/forms/material_coordinator_window.h"
@@ -7,6 +8,8 @@
 #include "desktop/forms/phi_window.h"
 #include "desktop/forms/pose_window.h"
 #include "desktop/forms/ratio_window.h"
+#include "desktop/forms/remove_files_window.h"
+#include "desktop/forms/renumber_window.h"
 #include "desktop/forms/tree_window.h"
 #include "desktop/forms/weld_window.h"
 #include "desktop/window/mesh_window.h"
@@ -41,6 +44,9 @@ std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts
 
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
+    {"FormCR2Install", makeLaidOut<Cr2InstallWindow, install::FormCR2Install>},
+    {"FormRemoveFiles", makeLaidOut<RemoveFilesWindow, install::FormRemoveFiles>},
+    {"FormRenumber", makeLaidOut<RenumberWindow, install::FormRenumber>},
     {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
     {"FormECM", makeLaidOut<LinkWindow, erc::FormECM>},
     {"FormListEMCs", makeLaidOut<RatioWindow, erc::FormListEMCs>},
