@@ -22,6 +22,8 @@
 #include "figure/path_pass.h"
 #include "figure/save.h"
 #include "figure/space_chopper.h"
+#include "install/cr2_files.h"
+#include "install/figure_files.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
 #include "pose/mat_builder.h"
@@ -359,6 +361,13 @@ const std::vector<Pass>& passes() {
       pass("dials renamed", rewrite, plain, renameDials),
       pass("dials renamed, preview", read, plain, previewDials),
       pass("link", rewrite, plain, writeLink),
+      pass("list of the files of a CR2", read, plain,
+           [](Bench& bench) { install::ListCR2Files(bench.session, bench.path); }),
+      pass("list of the files to remove", read, plain,
+           [](Bench& bench) {
+             bench.opening.LabelFileNameForEditor.setCaption(bench.path);
+             install::listFigureFiles(bench.session, bench.opening.ListboxListCR2Files);
+           }),
       pass("list of links", read, plain, listLinks),
       pass("ratio", rewrite, plain, changeRatio),
       pass("null figure", rewrite, plain, makeNullFigure),

@@ -3,10 +3,10 @@
 
 #include "desk.h"
 #include "input.h"
+#include "plain_mesh.h"
 #include "workshop/reset.h"
 #include "workshop/spin.h"
 #include "workshop/view.h"
-#include "plain_mesh.h"
 
 namespace {
 

@@ -60,6 +60,10 @@ class QuietFrontEnd final : public front::FrontEnd {
   int tileHeight() const override { return 1; }
   void openDocument(std::string_view, std::string_view, std::string_view) override {}
   void run(std::string_view) override {}
+  front::ProgramRun runToEnd(std::string_view, const std::vector<std::string>&) override {
+    return front::ProgramRun::leftToCaller;
+  }
+  bool moveToWasteBin(std::string_view) override { return false; }
   void playSound(std::string_view) override {}
   std::string systemFolder() const override { return "C:\\WINDOWS"; }
   front::Fetched fetch(std::string_view, std::string_view) override { return {}; }

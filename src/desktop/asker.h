@@ -41,6 +41,7 @@ class Asker {
     QString folder{};  ///< host names
     QString name{};
     QString hint{};        ///< below the dialog's own parts; may be empty
+    QString instead{};     ///< a further button, which answers with an empty name; may be empty
     QStringList places{};  ///< folders at the side, behind the usual ones
     /// The host path of a path on a drive such as C:\Poser; empty for any other text.
     std::function<QString(const QString&)> hostPath{};

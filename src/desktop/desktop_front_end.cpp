@@ -15,6 +15,7 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QEventLoop>
+#include <QFile>
 #include <QMimeData>
 #include <QScreen>
 #include <QTimer>
@@ -165,9 +166,11 @@ std::optional<std::string> DesktopFrontEnd::fileDialog(const front::FileDialog& 
        .folder = hostFolder(dialog.folder),
        .name = proposedName(dialog.file),
        .hint = shownMessage(dialog.hint),
+       .instead = shown(dialog.instead),
        .places = dispatcher_.attached() ? chooserPlaces(dispatcher_.session()) : QStringList(),
        .hostPath = [this](const QString& text) { return hostPathOf(disk_, text); }});
   if (!answer) return std::nullopt;
+  if (answer->isEmpty()) return std::string{};
   if (dispatcher_.attached()) rememberPlace(dispatcher_.session(), *answer);
   return disk_.systemPath(hostBytes(*answer));
 }
@@ -334,6 +337,18 @@ void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
 
 void DesktopFrontEnd::run(std::string_view commandLine) {
   startCommandLine(disk_, commandLine);
+}
+
+front::ProgramRun DesktopFrontEnd::runToEnd(std::string_view program,
+                                            const std::vector<std::string>& arguments) {
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  const bool ran = runProgramToEnd(disk_, program, arguments);
+  return ran ? front::ProgramRun::ended : front::ProgramRun::notStarted;
+}
+
+bool DesktopFrontEnd::moveToWasteBin(std::string_view path) {
+  return QFile::moveToTrash(hostName(disk_.hostPath(path)));
 }
 
 void DesktopFrontEnd::playSound(std::string_view path) {

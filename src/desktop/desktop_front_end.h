@@ -85,6 +85,9 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   void openDocument(std::string_view verb, std::string_view target,
                     std::string_view folder) override;
   void run(std::string_view commandLine) override;
+  front::ProgramRun runToEnd(std::string_view program,
+                             const std::vector<std::string>& arguments) override;
+  bool moveToWasteBin(std::string_view path) override;
   void playSound(std::string_view path) override;
   std::string systemFolder() const override { return "C:\\WINDOWS"; }
   front::Fetched fetch(std::string_view address, std::string_view path) override;

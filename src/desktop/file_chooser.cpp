@@ -1,10 +1,12 @@
 #include "desktop/file_chooser.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QUrl>
 
 namespace norvik::desktop {
@@ -21,6 +23,7 @@ FileChooser::FileChooser(const Asker::File& file, QWidget* owner)
   setSidebarUrls(places);
   if (!file.name.isEmpty()) selectFile(file.name);
   if (!file.hint.isEmpty()) addHint(file.hint);
+  if (!file.instead.isEmpty()) addInstead(file.instead);
 }
 
 void FileChooser::addHint(const QString& hint) {
@@ -31,6 +34,19 @@ void FileChooser::addHint(const QString& hint) {
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   grid->addWidget(label, grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+/// A button that is an answer of its own.
+void FileChooser::addInstead(const QString& text) {
+  auto* buttons = findChild<QDialogButtonBox*>(QStringLiteral("buttonBox"));
+  if (buttons == nullptr) return;
+  QPushButton* button = buttons->addButton(text, QDialogButtonBox::ActionRole);
+  button->setObjectName(QStringLiteral("Instead"));
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this] {
+    instead_ = true;
+    QDialog::accept();
+  });
 }
 
 /// The host path of a whole path; empty for a name alone.
@@ -63,6 +79,7 @@ void FileChooser::accept() {
 }
 
 QString FileChooser::chosen() const {
+  if (instead_) return {};
   return typed_.isEmpty() ? selectedFiles().value(0) : typed_;
 }
 

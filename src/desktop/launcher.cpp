@@ -1,15 +1,20 @@
 #include "desktop/launcher.h"
 
+#include "desktop/drives.h"
 #include "desktop/words.h"
 #include "text/columns.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QStandardPaths>
 #include <QUrl>
+
+#include <memory>
 
 namespace norvik::desktop {
 
@@ -43,6 +48,19 @@ bool hasBrowser() {
   return question.exitCode() != 0 || !question.readAllStandardOutput().trimmed().isEmpty();
 }
 
+/// Waits for a program to end, or for the operator to have enough.
+void waitFor(QProcess& process, const QString& name) {
+  QProgressDialog waiting(
+      QStringLiteral("%1 is running. Norvik goes on when it has ended.").arg(name),
+      QStringLiteral("&Wait no longer"), 0, 0, QApplication::activeWindow());
+  waiting.setObjectName(QStringLiteral("ProgramWait"));
+  waiting.setWindowTitle(QStringLiteral("Norvik"));
+  waiting.setWindowModality(Qt::ApplicationModal);
+  waiting.setMinimumDuration(0);
+  QObject::connect(&process, &QProcess::finished, &waiting, &QDialog::accept);
+  if (process.state() != QProcess::NotRunning) waiting.exec();
+}
+
 bool isAddress(std::string_view target) {
   return text::holds(target, "://");
 }
@@ -67,6 +85,40 @@ void startCommandLine(const text::Disk& disk, std::string_view commandLine) {
   QStringList arguments{file.filePath()};
   if (!rest.empty()) arguments << shown(rest);
   QProcess::startDetached(loader, arguments, file.path());
+}
+
+bool runProgramToEnd(const text::Disk& disk, std::string_view program,
+                     const std::vector<std::string>& arguments) {
+  const QFileInfo file(hostName(disk.hostPath(program)));
+  const bool ofTheFigures =
+      text::equalIgnoringCase(text::rightmost(program, 4), ".exe") || !file.isExecutable();
+  QString command = file.filePath();
+  QStringList words;
+  if (ofTheFigures) {
+    command = QStandardPaths::findExecutable(QStringLiteral("wine"));
+    if (command.isEmpty()) return false;
+    words << file.filePath();
+  }
+  for (const std::string& argument : arguments) {
+    // The loader's programs have drives of their own, on which Z: is all of the host.
+    QString path = hostPathOf(disk, shown(argument));
+    if (ofTheFigures)
+      path = QStringLiteral("Z:") + path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    words << path;
+  }
+  // It goes with the program, not with the wait: one that nobody waits for runs on.
+  auto process = std::make_unique<QProcess>();
+  process->setWorkingDirectory(file.path());
+  process->start(command, words);
+  if (!process->waitForStarted()) return false;
+  waitFor(*process, file.fileName());
+  QProcess* const left = process.release();
+  if (left->state() == QProcess::NotRunning) {
+    left->deleteLater();
+  } else {
+    QObject::connect(left, &QProcess::finished, left, &QObject::deleteLater);
+  }
+  return true;
 }
 
 bool openWithDesktop(const text::Disk& disk, std::string_view target, std::string_view folder) {

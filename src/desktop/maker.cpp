@@ -1,6 +1,7 @@
 #include "desktop/maker.h"
 
 #include "desktop/bind/choice_bindings.h"
+#include "desktop/bind/folder_bindings.h"
 #include "desktop/bind/label_binding.h"
 #include "desktop/bind/list_binding.h"
 #include "desktop/bind/pane_binding.h"
@@ -22,6 +23,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -54,6 +56,18 @@ ListView& Maker::list(front::ListBox& list, QWidget& parent) {
   auto* view = new ListView(&parent);
   bindings_.add(std::make_unique<ListBinding>(dispatcher_, list, *view));
   return *view;
+}
+
+QListWidget& Maker::folders(front::FolderList& folders, QWidget& parent) {
+  auto* list = new QListWidget(&parent);
+  bindings_.add(std::make_unique<FolderListBinding>(dispatcher_, folders, *list));
+  return *list;
+}
+
+QComboBox& Maker::drives(front::DriveList& drives, QWidget& parent) {
+  auto* combo = new QComboBox(&parent);
+  bindings_.add(std::make_unique<DriveListBinding>(dispatcher_, drives, *combo));
+  return *combo;
 }
 
 QLabel& Maker::label(front::Label& label, QWidget& parent) {
@@ -139,6 +153,7 @@ QWidget* Maker::make(front::Control& control, QWidget& parent) {
   using front::ControlKind;
   switch (control.kind()) {
     case ControlKind::listBox:
+    case ControlKind::fileList:
       return &list(dynamic_cast<front::ListBox&>(control), parent);
     case ControlKind::label:
       return &label(dynamic_cast<front::Label&>(control), parent);
@@ -208,8 +223,9 @@ QWidget* Maker::make(front::Control& control, QWidget& parent) {
     case ControlKind::drawingSurface:
       return &surface(dynamic_cast<front::PictureBox&>(control), parent);
     case ControlKind::folderList:
+      return &folders(dynamic_cast<front::FolderList&>(control), parent);
     case ControlKind::driveList:
-    case ControlKind::fileList:
+      return &drives(dynamic_cast<front::DriveList&>(control), parent);
     case ControlKind::timer:
     case ControlKind::menuEntry:
       return nullptr;

@@ -6,6 +6,7 @@
 #include "desktop/bind/surface_view.h"
 #include "desktop/bind/widget_binding.h"
 #include "front/choice_controls.h"
+#include "front/file_lists.h"
 #include "front/list_box.h"
 #include "front/picture_box.h"
 #include "front/plain_controls.h"
@@ -16,10 +17,12 @@
 #include <initializer_list>
 
 class QAbstractButton;
+class QComboBox;
 class QFrame;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QToolButton;
 
 namespace norvik::desktop {
@@ -39,6 +42,8 @@ class Maker {
   QWidget* make(front::Control& control, QWidget& parent);
 
   ListView& list(front::ListBox& list, QWidget& parent);
+  QListWidget& folders(front::FolderList& folders, QWidget& parent);
+  QComboBox& drives(front::DriveList& drives, QWidget& parent);
   QLabel& label(front::Label& label, QWidget& parent);
   /// A label for a path, which gives way to a narrow window.
   QLabel& pathLabel(front::Label& label, QWidget& parent);

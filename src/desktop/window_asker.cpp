@@ -152,8 +152,10 @@ std::optional<front::Answer> WindowAsker::repeatedBox(const Box& asked) {
 
 std::optional<QString> WindowAsker::file(const File& file) {
   FileChooser chooser(file, owner());
-  if (chooser.exec() != QDialog::Accepted || chooser.chosen().isEmpty()) return std::nullopt;
-  return QDir::cleanPath(chooser.chosen());
+  if (chooser.exec() != QDialog::Accepted) return std::nullopt;
+  const QString chosen = chooser.chosen();
+  if (chosen.isEmpty() && !chooser.answersOtherwise()) return std::nullopt;
+  return chosen.isEmpty() ? chosen : QDir::cleanPath(chosen);
 }
 
 std::optional<front::Colour> WindowAsker::colour(front::Colour initial) {

@@ -1,6 +1,7 @@
 #include "figure/path_lister.h"
 
 #include "figure/geometry_reference.h"
+#include "front/poser_location.h"
 #include "front/screen_scale.h"
 #include "text/line_reader.h"
 
@@ -112,17 +113,13 @@ void listProps(front::Opening& opening, text::LineReader& in, bool testReference
   }
 }
 
-void readPoserLocation(front::Session& session) {
-  session.opening.PoserLocation = session.settings.get("Startup", "PLoc", "0");
-}
-
 }  // namespace
 
 void OpenCR2(front::Session& session, const std::string& path) {
   front::Opening& opening = session.opening;
   text::LineReader in(session.disk, path);
   opening.TextMainOBJ.setText(findFigure(opening, in));
-  readPoserLocation(session);
+  front::readPoserLocation(session);
   const std::string geometries = opening.PoserLocation + "Runtime\\Geometries";
   try {
     opening.LabelOBJFileName.setCaption(
@@ -142,7 +139,7 @@ void OpenHR2(front::Session& session, const std::string& path) {
   front::Opening& opening = session.opening;
   text::LineReader in(session.disk, path);
   opening.TextMainOBJ.setText(findFirstProp(opening, in));
-  readPoserLocation(session);
+  front::readPoserLocation(session);
   // The doubled backslash is forgiven.
   const std::string geometries = opening.PoserLocation + "\\Runtime\\Geometries";
   opening.LabelOBJFileName.setCaption(

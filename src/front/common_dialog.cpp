@@ -31,10 +31,10 @@ bool CommonDialog::save(FrontEnd& front, std::string_view folder, std::string_vi
 
 bool CommonDialog::show(FrontEnd& front, FileDialog::Kind kind, std::string_view title,
                         std::string_view folder, const DialogWords& words) {
-  const auto chosen =
-      front.fileDialog({kind, name_, std::string{titleOf(kind, title, words.purpose)},
-                        words.filter.empty() ? filter_ : std::string{words.filter},
-                        std::string{folder}, fileName_, std::string{words.hint}});
+  const auto chosen = front.fileDialog(
+      {kind, name_, std::string{titleOf(kind, title, words.purpose)},
+       words.filter.empty() ? filter_ : std::string{words.filter}, std::string{folder}, fileName_,
+       std::string{words.hint}, std::string{words.instead}});
   if (chosen) fileName_ = *chosen;
   return chosen.has_value();
 }

@@ -9,11 +9,12 @@
 namespace norvik::front {
 
 /// What a dialog says: what the file is for, which is its title where it has no other, the kinds of
-/// files it may be, and a hint. None of it changes what can be chosen.
+/// files it may be, and a hint. None of it changes which file can be chosen.
 struct DialogWords {
   std::string_view purpose{};
   std::string_view filter{};
   std::string_view hint{};
+  std::string_view instead{};  ///< a further button, which answers with an empty path
 };
 
 inline constexpr std::string_view kFigureFilter =

@@ -38,7 +38,7 @@ bool walkTo(const text::Disk& disk, FolderList& folders, std::string_view path) 
   std::string wanted{path};
   if (isDrive(wanted)) wanted += '\\';
   if (wanted.empty() || !disk.folderExists(wanted)) return false;
-  folders.setPath(wanted);
+  folders.setPath(disk.inFull(wanted));
   return true;
 }
 

@@ -16,6 +16,8 @@ class FolderList : public Control {
 
   const std::string& path() const { return path_; }
   void setPath(std::string_view path);
+  /// Has what is drawn looked at anew: the folders on the disk have changed.
+  void refresh() { touch(); }
 
   Event<> changed{*this};  ///< the operator has walked to another folder
 

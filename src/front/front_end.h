@@ -48,6 +48,8 @@ struct FileDialog {
   std::string folder{};  ///< the initial folder
   std::string file{};    ///< the proposed name
   std::string hint{};    ///< what a window adds to the title; may be empty
+  /// A further button of a window, which answers with an empty path; empty: none.
+  std::string instead{};
 };
 
 /// The outcome of a fetch over the network. `error` is 0 when the front end does not fetch at all.
@@ -76,6 +78,13 @@ struct ScreenPart {
   int top = 0;
   int width = 0;
   int height = 0;
+};
+
+/// What became of a program that was to be waited for.
+enum class ProgramRun {
+  notStarted,    ///< nothing here can start it
+  ended,         ///< it ended, or the operator waits no longer
+  leftToCaller,  ///< this front end starts nothing; whoever asked does the work
 };
 
 /// Thrown by a front end whose operator is gone: a script without an answer to a box, a window that
@@ -149,6 +158,11 @@ class FrontEnd {
                             std::string_view folder) = 0;
   /// Starts a command line in a normal window.
   virtual void run(std::string_view commandLine) = 0;
+  /// Starts a program, which is there, with arguments, and waits until it has ended.
+  virtual ProgramRun runToEnd(std::string_view program,
+                              const std::vector<std::string>& arguments) = 0;
+  /// Puts a file into the system's waste bin; false, and nothing done, where there is none.
+  virtual bool moveToWasteBin(std::string_view path) = 0;
   /// Plays a sound and does not wait for its end; a missing file plays nothing.
   virtual void playSound(std::string_view path) = 0;
   /// The operating system's own folder.

@@ -159,6 +159,14 @@ void ScriptFrontEnd::run(std::string_view commandLine) {
   transcript_.print(JsonObject("run").text("command", commandLine));
 }
 
+front::ProgramRun ScriptFrontEnd::runToEnd(std::string_view program,
+                                           const std::vector<std::string>& arguments) {
+  std::string line{program};
+  for (const std::string& argument : arguments) line.append(" ").append(argument);
+  run(line);
+  return front::ProgramRun::leftToCaller;
+}
+
 void ScriptFrontEnd::playSound(std::string_view path) {
   transcript_.print(JsonObject("sound").text("path", path));
 }

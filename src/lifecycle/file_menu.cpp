@@ -1,8 +1,8 @@
 #include "lifecycle/file_menu.h"
 
 #include "front/dial_frame.h"
+#include "front/poser_location.h"
 #include "front/screen_scale.h"
-#include "lifecycle/poser_location.h"
 #include "text/columns.h"
 #include "text/number_text.h"
 
@@ -17,9 +17,9 @@ void changePoserLocation(front::Session& session) {
                                    opening.PoserLocation + ", do you want to change it?",
                                "Info", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  askForPoser(session);
+  front::askForPoser(session);
   // A cancel leaves the dialog's last name, which is stored again.
-  if (!opening.CommonDialogFindPoser.fileName().empty()) storePoserLocation(session);
+  if (!opening.CommonDialogFindPoser.fileName().empty()) front::storePoserLocation(session);
 }
 
 void clearReadOnlyAttributes(front::Session& session) {
@@ -31,6 +31,7 @@ void clearReadOnlyAttributes(front::Session& session) {
   const std::string extension{text::extension(dialog.fileName())};
   std::int64_t count = 0;
   for (const std::string& name : session.disk.matching("*." + extension)) {
+    if (!session.disk.isReadOnly(name)) continue;
     session.disk.setReadOnly(name, false);
     ++count;
   }
@@ -60,7 +61,7 @@ void tidyForFileMenu(front::Session& session) {
       &opening.OptionMashMorph, &opening.PictureMirror, &opening.ListAllTexMaps};
   for (front::Control* control : hidden) control->hide();
   front::hideDialFrame(opening);
-  readPoserLocation(session);
+  front::readPoserLocation(session);
 }
 
 void tidyForToolsMenu(front::Opening& opening) {

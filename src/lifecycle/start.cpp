@@ -1,10 +1,10 @@
 #include "lifecycle/start.h"
 
 #include "figure/open_file.h"
+#include "front/poser_location.h"
 #include "front/recent_files.h"
 #include "front/scratch_files.h"
 #include "front/screen_scale.h"
-#include "lifecycle/poser_location.h"
 #include "text/columns.h"
 
 namespace norvik::lifecycle {
@@ -22,10 +22,10 @@ void startProgram(front::Session& session) {
   session.load(opening);
 
   if (session.settings.get(kStartup, "PLoc", kUnset) == kUnset) {
-    askForPoser(session);
-    storePoserLocation(session);
+    front::askForPoser(session);
+    front::storePoserLocation(session);
   }
-  readPoserLocation(session);
+  front::readPoserLocation(session);
   if (session.settings.get(kStartup, "NorvikLoc", kUnset) == kUnset) {
     session.settings.set(kStartup, "NorvikLoc", opening.ProgramFolder);
   }

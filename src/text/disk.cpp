@@ -193,26 +193,34 @@ std::string Disk::nameOnDisk(std::string_view path) const {
   return place.exists() ? std::string{lastName(place.name)} : std::string{};
 }
 
-std::vector<std::string> Disk::matching(std::string_view pattern) const {
-  std::string wanted;
-  Place folder;
+/// What there is of a kind in a folder; nothing in one that is none.
+std::vector<std::string> Disk::namesIn(const Path& folder, HostStatus::Kind kind) const {
+  const Place place = locate(folder);
   std::vector<std::string> names;
-  blaming(pattern, FileAct::lookingFor, [&] {
-    Path path = parse(pattern);
-    if (path.parts.empty()) return;
-    wanted = path.parts.back();
-    path.parts.pop_back();
-    folder = locate(path);
-    if (folder.status.kind == HostStatus::Kind::folder) raise(host_.list(folder.name, names));
-  });
+  if (place.status.kind == HostStatus::Kind::folder) raise(host_.list(place.name, names));
   std::erase_if(names, [&](const std::string& name) {
     HostStatus status;
-    return !matchesWildcards(name, wanted) ||
-           host_.status(joined(folder.name, name), status) != 0 ||
-           status.kind != HostStatus::Kind::file;
+    return host_.status(joined(place.name, name), status) != 0 || status.kind != kind;
   });
-  std::sort(names.begin(), names.end());
+  sortNames(names);
   return names;
+}
+
+std::vector<std::string> Disk::matching(std::string_view pattern) const {
+  return blaming(pattern, FileAct::lookingFor, [&] {
+    Path path = parse(pattern);
+    if (path.parts.empty()) return std::vector<std::string>{};
+    const std::string wanted = std::move(path.parts.back());
+    path.parts.pop_back();
+    std::vector<std::string> names = namesIn(path, HostStatus::Kind::file);
+    std::erase_if(names, [&](const std::string& name) { return !matchesWildcards(name, wanted); });
+    return names;
+  });
+}
+
+std::vector<std::string> Disk::foldersIn(std::string_view folder) const {
+  return blaming(folder, FileAct::lookingFor,
+                 [&] { return namesIn(parse(folder), HostStatus::Kind::folder); });
 }
 
 std::unique_ptr<HostFile> Disk::open(const std::string& name, HostOpenMode mode) const {

@@ -48,12 +48,17 @@ class Disk {
   void setReadOnly(std::string_view path, bool readOnly);
   /// The last name of a path as the disk spells it; empty if it is missing.
   std::string nameOnDisk(std::string_view path) const;
-  /// The files that match a path whose last name may hold "*" and "?", in the order of their names.
+  /// The files that match a path whose last name may hold "*" and "?", in the order of their names
+  /// without regard to case.
   std::vector<std::string> matching(std::string_view pattern) const;
+  /// The names of the folders in a folder, in the same order.
+  std::vector<std::string> foldersIn(std::string_view folder) const;
 
   void makeFolder(std::string_view path);
   /// Makes a folder and those above it; existing ones are no error.
   void makeFolders(std::string_view path);
+  /// Removes a folder, which must be empty (75). The current folder can go, too.
+  void removeFolder(std::string_view path);
   void remove(std::string_view path);
 
   /// Renames or moves a file; fails with fileAlreadyExists (58) if the new name is taken. A link is
@@ -71,6 +76,11 @@ class Disk {
   /// first it has both names, then `scratch` takes its place. The new file is not read-only, even
   /// if the old one is.
   void replaceKeeping(std::string_view scratch, std::string_view target, std::string_view backup);
+
+  /// Copies a file, with its mode, to another name; an old file of that name stands whole until the
+  /// copy takes its place, as in `replace`. A file that is to be copied onto itself is
+  /// fileAlreadyOpen (55).
+  void copy(std::string_view from, std::string_view to);
 
   /// Gives `file` the mode and owner of `model`, but for the read-only attribute. Never fails.
   void adoptIdentity(std::string_view file, std::string_view model);
@@ -115,6 +125,7 @@ class Disk {
   Place locateExisting(std::string_view path) const;
   Place locateFile(std::string_view path) const;
   Place locateWritable(std::string_view path) const;
+  std::vector<std::string> namesIn(const Path& folder, HostStatus::Kind kind) const;
   bool areOneFile(const Place& one, const Place& other) const;
   std::unique_ptr<HostFile> open(const std::string& name, HostOpenMode mode) const;
   std::unique_ptr<HostFile> openWritable(std::string_view path, HostOpenMode mode);

@@ -83,6 +83,17 @@ void Disk::losing(Loss what, const Place& place, const std::string& name, std::s
   history_->losing({fullPath(path), name, place.status, what, isLink}, step);
 }
 
+void Disk::removeFolder(std::string_view path) {
+  blaming(path, FileAct::deleting, [&] {
+    const Place place = locate(path);
+    const bool isFolder = place.status.kind == HostStatus::Kind::folder;
+    if (!isFolder) throw FileError(ErrorNumber::pathNotFound);
+    if (parse(path).parts.empty() || host_.removeFolder(place.name) != 0) {
+      throw FileError(ErrorNumber::pathFileAccess);
+    }
+  });
+}
+
 void Disk::remove(std::string_view path) {
   blaming(path, FileAct::deleting, [&] {
     const Place place = locateFile(path);
@@ -171,6 +182,28 @@ void Disk::replaceKeeping(std::string_view scratch, std::string_view target,
       HostStatus now;
       const bool stands = host_.status(name, now) == 0 && now.serial == old.status.serial;
       if (stands) static_cast<void>(host_.remove(kept));
+      throw;
+    }
+  });
+}
+
+void Disk::copy(std::string_view from, std::string_view to) {
+  blaming(to, FileAct::writing, [&] {
+    const Place source = blaming(from, FileAct::reading, [&] { return locateFile(from); });
+    const Place old = locateWritable(to);
+    if (old.exists() && areOneFile(source, old)) {
+      throw FileError(ErrorNumber::fileAlreadyOpen, from);
+    }
+    const std::string name = followLinks(host_, old.name);
+    const std::string made = copyBeside(host_, source.name, name);
+    try {
+      if (old.exists()) {
+        takePlace(made, old, to, old.status);
+      } else {
+        moveFile(host_, made, name, false);
+      }
+    } catch (const FileError&) {
+      static_cast<void>(host_.remove(made));
       throw;
     }
   });

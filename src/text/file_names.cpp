@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace norvik::text {
 
@@ -114,6 +115,15 @@ std::u32string foldedName(std::string_view name) {
 bool sameName(std::string_view left, std::string_view right) {
   if (isAscii(left) && isAscii(right)) return equalIgnoringCase(left, right);
   return foldedName(left) == foldedName(right);
+}
+
+void sortNames(std::vector<std::string>& names) {
+  std::vector<std::pair<std::u32string, std::string>> folded;
+  folded.reserve(names.size());
+  for (std::string& name : names) folded.emplace_back(foldedName(name), std::move(name));
+  std::sort(folded.begin(), folded.end());
+  names.clear();
+  for (auto& [key, name] : folded) names.push_back(std::move(name));
 }
 
 }  // namespace norvik::text

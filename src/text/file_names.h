@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik::text {
 
@@ -16,5 +17,9 @@ std::u32string foldedName(std::string_view name);
 
 /// Whether two names are one and the same file's. Paths may be compared as well.
 bool sameName(std::string_view left, std::string_view right);
+
+/// Puts names in the order of their folded characters; names that differ in case alone in that of
+/// their bytes.
+void sortNames(std::vector<std::string>& names);
 
 }  // namespace norvik::text

@@ -40,6 +40,13 @@
 #include "front/help_boxes.h"
 #include "front/history_limits.h"
 #include "front/scratch_files.h"
+#include "install/cr2_files.h"
+#include "install/figure_files.h"
+#include "install/installation.h"
+#include "install/library_folders.h"
+#include "install/remove_files.h"
+#include "install/renumber.h"
+#include "install/target_folders.h"
 #include "lifecycle/closing_animation.h"
 #include "lifecycle/exit.h"
 #include "lifecycle/file_menu.h"
@@ -107,6 +114,9 @@ Workbench::Workbench(front::FrontEnd& front, text::Disk& disk, front::Settings& 
   session_.addForm(formScale_);
   session_.addForm(magnifier_);
   session_.addForm(formLaunch_);
+  session_.addForm(formCR2Install_);
+  session_.addForm(formRemoveFiles_);
+  session_.addForm(formRenumber_);
   opening_.ProgramFolder = std::move(programFolder);
   session_.commandLine = std::move(commandLine);
   wireTools();
@@ -201,6 +211,14 @@ void Workbench::wireTools() {
   tools::wireGraphPaper(session_, formScale_);
   tools::wireMagnifier(session_, formObj_, magnifier_);
   tools::wireLauncher(session_, formLaunch_);
+  install::wireInstallMenu(session_, installerView_);
+  install::wirePrintCR2Files(session_);
+  install::wireTargetFolders(session_, formCR2Install_);
+  install::wireInstallation(session_, formCR2Install_, installerView_);
+  install::wireLibraryFolders(session_, formCR2Install_);
+  install::wireFigureFiles(session_, formRemoveFiles_);
+  install::wireRemoveFiles(session_, formRemoveFiles_);
+  install::wireRenumber(session_, formRenumber_);
   lifecycle::wireRecentFiles(session_);
   lifecycle::wireFileMenu(session_);
   lifecycle::wireHelpMenu(session_);

@@ -11,6 +11,10 @@
 #include "erc/form_list_emcs.h"
 #include "front/form_obj.h"
 #include "front/session.h"
+#include "install/form_cr2_install.h"
+#include "install/form_remove_files.h"
+#include "install/form_renumber.h"
+#include "install/install_menu.h"
 #include "materials/form_mat_coord.h"
 #include "pose/form_mor.h"
 #include "pose/form_pz2.h"
@@ -62,8 +66,12 @@ class Workbench {
   tools::FormScale formScale_;
   tools::Magnifier magnifier_;
   tools::FormLaunch formLaunch_;
+  install::FormCR2Install formCR2Install_;
+  install::FormRemoveFiles formRemoveFiles_;
+  install::FormRenumber formRenumber_;
   front::Session session_;
   obj::Workshop workshop_;
+  install::InstallerView installerView_{opening_};
 };
 
 }  // namespace norvik::workbench

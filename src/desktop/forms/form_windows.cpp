@@ -1,5 +1,6 @@
 #include "desktop/forms/form_windows.h"
 
+#include "desktop/forms/cr2_install_window.h"
 #include "desktop/forms/editor_window.h"
 #include "desktop/forms/launch_window.h"
 #include "desktop/forms/link_dialog_window.h"
@@ -11,7 +12,9 @@
 #include "desktop/forms/phi_window.h"
 #include "desktop/forms/pose_window.h"
 #include "desktop/forms/ratio_window.h"
+#include "desktop/forms/remove_files_window.h"
 #include "desktop/forms/renamer_window.h"
+#include "desktop/forms/renumber_window.h"
 #include "desktop/forms/scale_window.h"
 #include "desktop/forms/tree_window.h"
 #include "desktop/forms/viewer_window.h"
@@ -48,6 +51,9 @@ std::unique_ptr<FormWindow> makeCoordinator(front::Form& form, const WindowParts
 
 /// One line a form, by its name.
 constexpr Entry kWindows[] = {
+    {"FormCR2Install", makeLaidOut<Cr2InstallWindow, install::FormCR2Install>},
+    {"FormRemoveFiles", makeLaidOut<RemoveFilesWindow, install::FormRemoveFiles>},
+    {"FormRenumber", makeLaidOut<RenumberWindow, install::FormRenumber>},
     {"DialogERC", makeLaidOut<LinkDialogWindow, erc::DialogERC>},
     {"FormEditor", makeLaidOut<EditorWindow, editor::FormEditor>},
     {"FormNotes", makeLaidOut<NotesWindow, editor::FormNotes>},

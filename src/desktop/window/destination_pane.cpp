@@ -35,9 +35,8 @@ QWidget* makeParts(Maker& maker, front::Opening& opening, QWidget& parent) {
       QStringLiteral("Click a body part to give it another geometry. Right click to "
                      "hide this list."));
   column->addWidget(&altered, 1);
-  column->addWidget(&maker.list(opening.ListboxListCR2Files, *side), 1);
-  maker.showWhileAny(*side, {&opening.LabelBodyParts, &opening.ListActors,
-                             &opening.ListAltGeomActors, &opening.ListboxListCR2Files});
+  maker.showWhileAny(*side,
+                     {&opening.LabelBodyParts, &opening.ListActors, &opening.ListAltGeomActors});
   return side;
 }
 
@@ -71,23 +70,6 @@ QWidget* makeMaterials(Maker& maker, front::Opening& opening, QWidget& parent) {
   return side;
 }
 
-/// The buttons of the installer, with the list that they act on.
-QWidget* makeInstaller(Maker& maker, front::Opening& opening, QWidget& parent) {
-  constexpr int kIcon = 24;
-  auto* row = new QWidget(&parent);
-  auto* line = new QHBoxLayout(row);
-  line->setContentsMargins(0, 0, 0, 0);
-  for (front::PictureButton* picture :
-       {&opening.PictureInstallCR2, &opening.PictureCR2InstallCancel,
-        &opening.PicturePrintCR2Files}) {
-    line->addWidget(&maker.picture(*picture, *row, kIcon));
-  }
-  line->addStretch();
-  maker.showWhileAny(*row, {&opening.PictureInstallCR2, &opening.PictureCR2InstallCancel,
-                            &opening.PicturePrintCR2Files});
-  return row;
-}
-
 }  // namespace
 
 QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& parent) {
@@ -108,13 +90,10 @@ QWidget* makeDestinationPane(Maker& maker, front::Opening& opening, QWidget& par
   lists->addWidget(makeMaterials(maker, opening, *lists));
   lists->setSizes({300, 260});
   column->addWidget(lists, 1);
-  column->addWidget(makeInstaller(maker, opening, *pane));
-  maker.showWhileAny(
-      *pane, {&opening.LabelFileName, &opening.LabelBodyParts, &opening.ListActors,
-              &opening.LabelMaterials, &opening.ListMaterials, &opening.ListAltGeomActors,
-              &opening.ListboxListCR2Files, &opening.ListAltGeomNames, &opening.ListOBJExtract,
-              &opening.PictureInstallCR2, &opening.PictureCR2InstallCancel,
-              &opening.PicturePrintCR2Files});
+  maker.showWhileAny(*pane,
+                     {&opening.LabelFileName, &opening.LabelBodyParts, &opening.ListActors,
+                      &opening.LabelMaterials, &opening.ListMaterials, &opening.ListAltGeomActors,
+                      &opening.ListAltGeomNames, &opening.ListOBJExtract});
   return pane;
 }
 

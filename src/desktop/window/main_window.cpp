@@ -33,6 +33,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace norvik::desktop {
@@ -40,6 +41,21 @@ namespace norvik::desktop {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
+
+/// The panes are there with what they hold, but for the time of an installation.
+void showPanes(Maker& maker, front::Opening& opening, QWidget& panes) {
+  const std::vector<front::Control*> held{&opening.LabelFileName,     &opening.ListActors,
+                                          &opening.ListMaterials,     &opening.ListChannels,
+                                          &opening.ListAltGeomActors, &opening.ListAltGeomNames,
+                                          &opening.ListOBJExtract};
+  const auto show = [&opening, &panes, held] {
+    const bool any = std::any_of(held.begin(), held.end(),
+                                 [](const front::Control* control) { return control->visible(); });
+    panes.setVisible(any && !opening.ListboxListCR2Files.visible());
+  };
+  for (front::Control* control : held) maker.watch({control}, show);
+  maker.watch({&opening.ListboxListCR2Files}, show);
+}
 
 }  // namespace
 
@@ -187,19 +203,23 @@ void MainWindow::makeCentre() {
   panes->setSizes({560, 480});
   workColumn->addWidget(panes, 1);
   workColumn->addWidget(makeMeshPage(maker_, opening_, *work), 1);
+  workColumn->addWidget(makeInstallPane(maker_, opening_, *work), 1);
   workColumn->addWidget(makePathBlock(maker_, opening_, *work, paths_));
-  maker_.showWhileAny(
-      *panes, {&opening_.LabelFileName, &opening_.ListActors, &opening_.ListMaterials,
-               &opening_.ListChannels, &opening_.ListAltGeomActors, &opening_.ListboxListCR2Files,
-               &opening_.ListAltGeomNames, &opening_.ListOBJExtract});
+  showPanes(maker_, opening_, *panes);
   pages->addWidget(work);
   column->addWidget(pages, 1);
   setCentralWidget(centre);
 
   auto splash =
       std::make_unique<WidgetBinding>(maker_.dispatcher(), opening_.ImageSplash, *pages->widget(0));
-  splash->setShower([pages](bool shown) { pages->setCurrentIndex(shown ? 0 : 1); });
+  const auto turn = [pages, this] {
+    // The installer takes the window over before any file is open.
+    const bool empty = opening_.ImageSplash.visible() && !opening_.ListboxListCR2Files.visible();
+    pages->setCurrentIndex(empty ? 0 : 1);
+  };
+  splash->setShower([turn](bool) { turn(); });
   maker_.bindings().add(std::move(splash));
+  maker_.watch({&opening_.ListboxListCR2Files}, turn);
   makeOverlays(maker_, opening_, *centre);
   makeDialCards(maker_, opening_, *centre, *menus_);
 }

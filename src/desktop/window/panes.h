@@ -22,6 +22,9 @@ QWidget* makeSourcePane(Maker& maker, front::Opening& opening, QWidget& parent);
 QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
                        std::vector<PendingPath*>& paths);
 
+/// What the panes give way to while a figure is installed.
+QWidget* makeInstallPane(Maker& maker, front::Opening& opening, QWidget& parent);
+
 /// What the panes give way to when a mesh is open.
 QWidget* makeMeshPage(Maker& maker, front::Opening& opening, QWidget& parent);
 

@@ -1,0 +1,90 @@
+#include "install/shelf.h"
+
+#include "install/entry_name.h"
+#include "text/classic_errors.h"
+#include "text/file_names.h"
+
+#include <filesystem>
+#include <utility>
+
+namespace norvik::install {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void orRaise(const std::error_code& error) {
+  if (error) text::raise(error.value());
+}
+
+[[noreturn]] void refuse(const std::string& what) {
+  throw text::FileError(text::ErrorNumber::pathFileAccess, what);
+}
+
+/// What a name is itself, not what a link leads to.
+fs::file_type typeOf(const std::string& path) {
+  std::error_code error;
+  const fs::file_status status = fs::symlink_status(path, error);
+  return status.type();
+}
+
+void move(const std::string& from, const std::string& to) {
+  std::error_code error;
+  fs::rename(from, to, error);
+  if (error != std::errc::cross_device_link) return orRaise(error);
+  fs::copy_file(from, to, error);
+  orRaise(error);
+  fs::remove(from, error);
+}
+
+}  // namespace
+
+Shelf::Shelf(std::string hostFolder) : host_(std::move(hostFolder)) {
+  std::error_code error;
+  fs::directory_iterator entries(host_, error);
+  orRaise(error);
+  for (; entries != fs::directory_iterator(); entries.increment(error)) {
+    std::string name = entries->path().filename().string();
+    names_.try_emplace(text::foldedName(name), Known{name});
+  }
+  orRaise(error);
+}
+
+Shelf& Shelf::folder(const std::string& name) {
+  const auto [known, isNew] = names_.try_emplace(text::foldedName(name), Known{name});
+  const std::string folder = path(known->second.name);
+  if (isNew) {
+    std::error_code error;
+    fs::create_directory(folder, error);
+    if (error) names_.erase(known);
+    orRaise(error);
+  } else if (typeOf(folder) != fs::file_type::directory) {
+    refuse(name);
+  }
+  if (!known->second.shelf) known->second.shelf = std::make_unique<Shelf>(folder);
+  return *known->second.shelf;
+}
+
+void Shelf::makeRoom(Known& taken) {
+  if (typeOf(path(taken.name)) != fs::file_type::regular) refuse(taken.name);
+  std::string other;
+  do {
+    other = numberedName(taken.name, ++taken.numbered);
+  } while (names_.contains(text::foldedName(other)));
+  move(path(taken.name), path(other));
+  names_.try_emplace(text::foldedName(other), Known{other});
+}
+
+void Shelf::take(const std::string& hostFile, const std::string& name) {
+  const auto [known, isNew] = names_.try_emplace(text::foldedName(name), Known{name});
+  if (!isNew) makeRoom(known->second);
+  try {
+    move(hostFile, path(name));
+    known->second.name = name;
+  } catch (const text::FileError&) {
+    names_.erase(known);
+    throw;
+  }
+}
+
+}  // namespace norvik::install
