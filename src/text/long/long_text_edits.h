@@ -24,7 +24,7 @@ class LongTextEdits {
   /// Puts a text in the place of `length` bytes. With `typed` it joins the step before it if it
   /// goes on where that one ended.
   void replace(std::size_t at, std::size_t length, std::string_view bytes, bool typed = false);
-  /// Puts another text in the place of the whole one. The first text that comes is no step.
+  /// Puts another text in the place of the whole one.
   void setAll(LongText text);
   /// The next edit begins a step of its own.
   void endStep() { open_ = false; }
