@@ -9,6 +9,7 @@
 #include "desktop/screen_glass.h"
 #include "desktop/words.h"
 #include "front/form.h"
+#include "front/note_entry.h"
 #include "text/columns.h"
 
 #include <QApplication>
@@ -74,6 +75,13 @@ QString whatWasDone(const text::FileError& error) {
     return "The file is";
   };
   return QString::fromLatin1(doing()) + QLatin1Char(' ') + shown(error.path());
+}
+
+/// The note file opens in the system's editor; where there is none, and while there is no note yet,
+/// in a form.
+void openNoteFile(front::Session& session, const std::string& path) {
+  if (session.disk.exists(path) && openWithDesktop(session.disk, path, {})) return;
+  if (front::Form* notes = session.findForm("FormNotes"); notes != nullptr) session.load(*notes);
 }
 
 }  // namespace
@@ -336,6 +344,11 @@ void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
 }
 
 void DesktopFrontEnd::run(std::string_view commandLine) {
+  if (dispatcher_.attached()) {
+    front::Session& session = dispatcher_.session();
+    const std::string notes = session.opening.inProgramFolder(front::kNoteFile);
+    if (commandLine == "Notepad.exe " + notes) return openNoteFile(session, notes);
+  }
   startCommandLine(disk_, commandLine);
 }
 

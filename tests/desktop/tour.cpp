@@ -4,13 +4,15 @@
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
 //        norvik-tour pose DRIVE SETTINGS OUT      takes those of the pose tools alone
 //        norvik-tour phi DRIVE SETTINGS OUT       takes those of the phi tools alone
-//        norvik-tour install DRIVE SETTINGS OUT   takes those of the installer and the file tools
-//        alone norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
+//        norvik-tour install DRIVE SETTINGS OUT   takes those of the installer alone
+//        norvik-tour editor DRIVE SETTINGS OUT    takes those of the editor alone
+//        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
 // DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
 #include "desktop/bind/drop_mark.h"
+#include "desktop/editor_pictures.h"
 #include "desktop/install_pictures.h"
 #include "desktop/link_pictures.h"
 #include "desktop/material_pictures.h"
@@ -192,6 +194,13 @@ void takePhi(desktop::Program& program, desktop::Operator& hand, const QString& 
       [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 }
 
+void takeEditor(desktop::Program& program, desktop::Operator& hand, const QString& drive,
+                const Photographer& camera) {
+  desktop::takeEditorPictures(
+      hand, drive, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -265,6 +274,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
       hand, drive, [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   takePhi(program, hand, drive, camera);
   takeInstaller(program, hand, drive, camera);
+  takeEditor(program, hand, drive, camera);
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -365,6 +375,12 @@ int main(int count, char** arguments) {
       hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
       hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
       takeInstaller(program, hand, drive, Photographer(program, words.value(4)));
+      QApplication::quit();
+    }
+    if (words[1] == u"editor"_s) {
+      hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+      hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+      takeEditor(program, hand, drive, Photographer(program, words.value(4)));
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);

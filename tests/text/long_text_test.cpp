@@ -22,8 +22,7 @@ std::vector<std::size_t> lineStarts(const std::string& bytes) {
   std::vector<std::size_t> starts{0};
   for (std::size_t i = 0; i < bytes.size(); ++i) {
     const bool feed = bytes[i] == '\n';
-    const bool loneReturn =
-        bytes[i] == '\r' && (i + 1 == bytes.size() || bytes[i + 1] != '\n');
+    const bool loneReturn = bytes[i] == '\r' && (i + 1 == bytes.size() || bytes[i + 1] != '\n');
     if (feed || loneReturn) starts.push_back(i + 1);
   }
   return starts;
@@ -155,6 +154,13 @@ TEST(LongTextEdits, BeginsAStepAtALineEndAndWhenTold) {
   }
 }
 
+TEST(LongTextEdits, BeginsWithTheFirstText) {
+  LongText text;
+  LongTextEdits edits(text);
+  edits.setAll(LongText("loaded"));
+  EXPECT_FALSE(edits.canUndo());
+}
+
 TEST(LongTextEdits, BringsBackAWholeText) {
   LongText text("old");
   LongTextEdits edits(text);
@@ -255,6 +261,10 @@ TEST(TextSearch, ReplacesAllInOneGo) {
   EXPECT_EQ(made.text.string(), "aabaab");
   EXPECT_EQ(made.hits, 3U);
   EXPECT_EQ(made.behindLast, 4U);
+  const std::string word(50'000, 'w');
+  const auto large = text::replaceAll(LongText(word + "-" + word), TextSearch(word, {}), "x");
+  EXPECT_EQ(large.text.string(), "x-x");
+  EXPECT_EQ(large.behindLast, 3U);
   EXPECT_EQ(text::replaceAll(LongText("abc"), TextSearch("", {}), "x").hits, 0U);
 }
 

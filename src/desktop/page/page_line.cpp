@@ -2,6 +2,8 @@
 
 #include "desktop/words.h"
 
+#include <QList>
+
 #include <algorithm>
 #include <cmath>
 

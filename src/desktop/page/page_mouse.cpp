@@ -114,13 +114,13 @@ void PageView::contextMenuEvent(QContextMenuEvent* event) {
 
 QMimeData* PageView::selectionData() const {
   const std::string bytes = content().slice(selectionStart(), selectionEnd() - selectionStart());
-  auto* data = new QMimeData;
+  auto* held = new QMimeData;
   QString letters = shown(bytes);
   letters.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
   letters.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  data->setText(letters);
-  data->setData(kBytes, QByteArray::fromStdString(bytes));
-  return data;
+  held->setText(letters);
+  held->setData(kBytes, QByteArray::fromStdString(bytes));
+  return held;
 }
 
 void PageView::copy() {
@@ -136,13 +136,13 @@ void PageView::paste() {
   insertFrom(QGuiApplication::clipboard()->mimeData());
 }
 
-void PageView::insertFrom(const QMimeData* data) {
-  if (data == nullptr) return;
-  if (data->hasFormat(kBytes)) {
-    replaceSelection(data->data(kBytes).toStdString(), false);
-  } else if (data->hasText()) {
+void PageView::insertFrom(const QMimeData* held) {
+  if (held == nullptr) return;
+  if (held->hasFormat(kBytes)) {
+    replaceSelection(held->data(kBytes).toStdString(), false);
+  } else if (held->hasText()) {
     // A line end typed is CR LF, and so is one that is pasted.
-    QString letters = data->text();
+    QString letters = held->text();
     letters.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     letters.replace(QLatin1Char('\r'), QLatin1Char('\n'));
     letters.replace(QLatin1Char('\n'), QStringLiteral("\r\n"));

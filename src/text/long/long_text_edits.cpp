@@ -67,6 +67,11 @@ void LongTextEdits::replace(std::size_t at, std::size_t length, std::string_view
 
 void LongTextEdits::setAll(LongText text) {
   if (text_.empty() && text.empty()) return;
+  // Nobody wants the emptiness back that was there in front of the first text.
+  if (text_.empty() && steps_.empty()) {
+    text_ = std::move(text);
+    return;
+  }
   // A text that comes into a pane which was emptied for it is one step with that.
   if (text_.empty() && done_ > 0 && done_ == steps_.size() && steps_.back().length == 0) {
     steps_.back().length = text.size();

@@ -3,6 +3,7 @@
 #include "text/byte_chunk.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace norvik::text {
 
@@ -123,33 +124,76 @@ std::optional<std::size_t> TextSearch::find(const LongText& text, std::size_t fr
   return hit;
 }
 
+namespace {
+
+/// Copies a text from its start on into another, in blocks.
+class Copyist {
+ public:
+  Copyist(const LongText& from, LongText& to) : to_(to) {
+    from.visitFrom(0, [this](std::string_view bytes) {
+      pieces_.push_back(bytes);
+      return true;
+    });
+  }
+
+  /// Copies what stands in front of a place and was not passed yet.
+  void copyUpTo(std::size_t place) {
+    while (at_ < place) {
+      const std::string_view bytes = rest(place);
+      add(bytes);
+      pass(bytes.size());
+    }
+  }
+  void passUpTo(std::size_t place) {
+    while (at_ < place) pass(rest(place).size());
+  }
+  void add(std::string_view bytes) {
+    constexpr std::size_t kBlock = std::size_t{1} << 20U;
+    held_ += bytes;
+    if (held_.size() >= kBlock) write();
+  }
+  void write() {
+    to_.append(held_);
+    held_.clear();
+  }
+  std::size_t written() const { return to_.size() + held_.size(); }
+
+ private:
+  std::string_view rest(std::size_t place) const {
+    return pieces_[piece_].substr(offset_, place - at_);
+  }
+  void pass(std::size_t count) {
+    at_ += count;
+    offset_ += count;
+    if (offset_ == pieces_[piece_].size()) {
+      ++piece_;
+      offset_ = 0;
+    }
+  }
+
+  LongText& to_;
+  std::vector<std::string_view> pieces_;
+  std::size_t piece_ = 0;
+  std::size_t offset_ = 0;
+  std::size_t at_ = 0;
+  std::string held_;
+};
+
+}  // namespace
+
 Replaced replaceAll(const LongText& text, const TextSearch& search, std::string_view with) {
   Replaced result;
-  constexpr std::size_t kBlock = std::size_t{64} * 1024;
-  std::string made;
-  const auto copy = [&](std::size_t from, std::size_t to) {
-    std::size_t left = to - from;
-    text.visitFrom(from, [&](std::string_view bytes) {
-      made += bytes.substr(0, left);
-      left -= std::min(left, bytes.size());
-      if (made.size() >= kBlock) {
-        result.text.append(made);
-        made.clear();
-      }
-      return left > 0;
-    });
-  };
-  std::size_t done = 0;
+  Copyist copyist(text, result.text);
   search.visit(text, 0, text.size(), [&](std::size_t hit) {
-    copy(done, hit);
-    made += with;
+    copyist.copyUpTo(hit);
+    copyist.add(with);
+    copyist.passUpTo(hit + search.size());
     ++result.hits;
-    result.behindLast = result.text.size() + made.size();
-    done = hit + search.size();
+    result.behindLast = copyist.written();
     return true;
   });
-  copy(done, text.size());
-  result.text.append(made);
+  copyist.copyUpTo(text.size());
+  copyist.write();
   return result;
 }
 
