@@ -58,6 +58,7 @@
 #include "obj/scaler.h"
 #include "obj/sec_map.h"
 #include "obj/uv_map.h"
+#include "obj/view_map.h"
 #include "workshop/open_workshop.h"
 #include "workshop/play.h"
 #include "workshop/reset.h"
@@ -160,6 +161,7 @@ void Workbench::wireTools() {
   obj::wireUVMap(workshop_);
   obj::wireSecMap(workshop_);
   obj::wireSaveMap(workshop_);
+  obj::wireViewMap(workshop_);
   obj::wireApplyMap(workshop_);
   obj::wireMash(session_);
   obj::wireScaler(session_);
