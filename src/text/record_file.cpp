@@ -5,13 +5,6 @@
 
 namespace norvik::text {
 
-namespace {
-
-/// Files below this size are written at once.
-constexpr std::uint64_t kLarge = std::uint64_t{8} << 20U;
-
-}  // namespace
-
 RecordFile::RecordFile(Disk& disk, std::string_view path, std::size_t recordLength)
     : path_(disk.inFull(path)), file_(disk.openForUpdating(path)), recordLength_(recordLength) {}
 
@@ -19,38 +12,17 @@ RecordFile::~RecordFile() {
   if (file_ != nullptr) ignoringErrors([this] { flush(); });
 }
 
-/// Has all that is held in the file.
 void RecordFile::flush() {
-  if (background_ != nullptr) {
-    const int error = background_->finish();
-    if (error != 0) held_.clear();
-    raise(error, path_, FileAct::writing);
-  }
-  if (!held_.empty()) writeHere();
-}
-
-void RecordFile::writeHere() {
+  if (held_.empty()) return;
   int error = file_->seek(offsetOf(heldFrom_));
   if (error == 0) error = file_->write(held_);
   held_.clear();
   raise(error, path_, FileAct::writing);
 }
 
-/// Has what is held on its way into the file, so that more can be held.
-void RecordFile::handOn() {
-  if (held_.empty()) return;
-  if (background_ == nullptr) {
-    if (offsetOf(heldFrom_) < kLarge) return writeHere();
-    background_ = std::make_unique<BackgroundWriter>(*file_);
-  }
-  const int error = background_->write(offsetOf(heldFrom_), held_);
-  if (error != 0) held_.clear();
-  raise(error, path_, FileAct::writing);
-}
-
 void RecordFile::put(std::uint64_t number, std::string_view text) {
   const std::uint64_t next = heldFrom_ + held_.size() / recordLength_;
-  if (held_.size() + recordLength_ > kBlockSize || number != next) handOn();
+  if (held_.size() + recordLength_ > kBlockSize || number != next) flush();
   if (held_.empty()) heldFrom_ = number;
   const auto kept = leftmost(text, recordLength_);
   held_.append(kept).append(recordLength_ - kept.size(), ' ');
@@ -83,7 +55,9 @@ std::uint64_t RecordFile::count() {
 
 void RecordFile::close() {
   flush();
-  background_.reset();
+  // The host may still be writing; its answer says whether it could.
+  std::uint64_t bytes = 0;
+  raise(file_->size(bytes), path_, FileAct::writing);
   file_.reset();
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 // Files of fixed-length records, addressed by number.
 
-#include "text/background_writer.h"
 #include "text/disk.h"
 
 #include <cstdint>
@@ -13,8 +12,6 @@ namespace norvik::text {
 
 /// A random-access file of records of one length, numbered from 1. A text shorter than the record
 /// is filled up with blanks on the right, a longer one is cut. The file is made if it is missing.
-/// Many records put one behind the other are written beside the caller's work: an error comes up
-/// with a later record, or with close().
 class RecordFile {
  public:
   RecordFile(Disk& disk, std::string_view path, std::size_t recordLength);
@@ -38,8 +35,6 @@ class RecordFile {
  private:
   std::uint64_t offsetOf(std::uint64_t number) const { return (number - 1) * recordLength_; }
   void flush();
-  void handOn();
-  void writeHere();
 
   std::string path_;
   std::unique_ptr<HostFile> file_;
@@ -47,7 +42,6 @@ class RecordFile {
   std::string held_;  ///< records put one behind the other and not yet written
   std::uint64_t heldFrom_ = 0;
   std::string record_;
-  std::unique_ptr<BackgroundWriter> background_;  ///< once a file has become large
 };
 
 }  // namespace norvik::text
