@@ -22,7 +22,7 @@ namespace {
 using norvik::bench::Cost;
 using norvik::bench::runCommand;
 
-constexpr double kLimit = 3;  // times of the loader
+constexpr double kLimit = 1.2;  // times of the loader
 
 void read(const std::string& folder, const std::string& file) {
   norvik::bench::UnflushedHost host;

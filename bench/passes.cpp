@@ -26,6 +26,7 @@
 #include "install/figure_files.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
+#include "mesh_passes.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_lister.h"
 #include "pose/mor_skeleton.h"
@@ -341,6 +342,8 @@ const std::vector<Pass>& passes() {
            [](Bench& bench) { figure::SpaceChopper(bench.session, bench.path); }),
       pass("phi file", open, plain, makePhi),
       pass("cut of a branch", rewrite, plain, cutBranch),
+      pass("groups renamed (two passes)", copy, plain, renameNames),
+      pass("chosen groups saved", rewrite, plain, saveGroups),
       pass("extraction of a body part", read, plain, extractPart),
       pass("graft of a body part", rewrite, plain, graftPart),
       pass("path pass", substitution, plain, passPaths),

@@ -1,5 +1,7 @@
 #include "desktop/theme.h"
 
+#include "desktop/ink.h"
+
 #include <QApplication>
 #include <QProxyStyle>
 #include <QStyleFactory>
@@ -138,6 +140,10 @@ void paintText(QWidget& widget, front::Colour colour) {
   palette.setColor(QPalette::Active, QPalette::WindowText, ink);
   palette.setColor(QPalette::Inactive, QPalette::WindowText, ink);
   widget.setPalette(palette);
+}
+
+QColor readableInk(front::Colour colour, const QPalette& palette) {
+  return readable(toColor(colour), palette.color(QPalette::Base));
 }
 
 }  // namespace norvik::desktop

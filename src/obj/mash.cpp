@@ -16,6 +16,22 @@ constexpr std::string_view kMarkLine = "# Processed by Norvik by Tallowmere 2001
 
 enum class Condensed { yes, already };
 
+void dropNormals(text::RewritePass& pass) {
+  const text::LineFilter normals({text::LineFilter::Token{"vn", true}});
+  for (pass.copyLines(normals); !pass.in().atEnd(); pass.copyLines(normals)) {
+    const std::string_view line = pass.in().line();
+    if (!text::begins(line, "vn")) pass.out().line(line);
+  }
+}
+
+void keepVertices(text::RewritePass& pass) {
+  const text::LineFilter vertices({text::LineFilter::Token{"v ", true}});
+  for (pass.in().passLines(vertices); !pass.in().atEnd(); pass.in().passLines(vertices)) {
+    const std::string_view line = pass.in().line();
+    if (text::begins(line, "v ")) pass.out().line(line);
+  }
+}
+
 /// Fills the scratch file. A first line with the mark ends that; the scratch file goes then.
 Condensed condense(front::Session& session, const std::string& path, const std::string& scratch) {
   const front::Opening& opening = session.opening;
@@ -31,11 +47,8 @@ Condensed condense(front::Session& session, const std::string& path, const std::
   session.hourglass(true);
   pass.out().line(kMarkLine);
   pass.out().line(first);
-  while (!pass.in().atEnd()) {
-    const std::string_view line = pass.in().line();
-    if (opening.OptionMashOBJ.value() && !text::begins(line, "vn")) pass.out().line(line);
-    if (opening.OptionMashMorph.value() && text::begins(line, "v ")) pass.out().line(line);
-  }
+  if (opening.OptionMashOBJ.value()) dropNormals(pass);
+  if (opening.OptionMashMorph.value()) keepVertices(pass);
   pass.finish();
   return Condensed::yes;
 }

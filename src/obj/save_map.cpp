@@ -12,22 +12,23 @@ namespace {
 
 constexpr std::string_view kScratch = "\\MapSave.tmp";
 constexpr std::string_view kPrompt = "Enter Map Size";
+constexpr std::string_view kEnding = "bmp";
+constexpr std::string_view kSecondEnding = ".bmp";
 constexpr int kMapPixels = 580;
 
 /// What the two templates differ in.
 struct Sheet {
   front::PictureBox& picture;
   front::TextBox& size;
-  std::string_view ending;
   std::string_view saved;
 };
 
 Sheet mainSheet(front::FormOBJ& form) {
-  return {form.PictureUVMap, form.TextMapSize, "bmp", "UV Map Template saved as "};
+  return {form.PictureUVMap, form.TextMapSize, "UV Map Template saved as "};
 }
 
 Sheet secondSheet(front::FormOBJ& form) {
-  return {form.PictureSecMap, form.TextMapSizeSec, ".bmp", "Secondary UV Map saved as "};
+  return {form.PictureSecMap, form.TextMapSizeSec, "Secondary UV Map saved as "};
 }
 
 std::optional<int> pixelsIn(std::string_view text) {
@@ -41,7 +42,7 @@ void save(Workshop& workshop, const Sheet& sheet) {
   if (workshop.reading) return;
   front::Session& session = workshop.session;
   front::FormOBJ& form = workshop.form;
-  const auto file = mapFile(workshop, sheet.size);
+  const auto file = mapFile(session.opening, sheet.size);
   if (!file) throw text::FileError(text::ErrorNumber{480});
   session.hourglass(true);
   graphics::saveStretchedBmp(session.disk, sheet.picture.surface(), {file->pixels, file->pixels},
@@ -73,14 +74,12 @@ void wire(Workshop& workshop, Sheet (*sheetOf)(front::FormOBJ&)) {
 
 }  // namespace
 
-std::optional<MapFile> mapFile(const Workshop& workshop, const front::TextBox& size) {
+std::optional<MapFile> mapFile(const front::Opening& opening, const front::TextBox& size) {
   const auto pixels = pixelsIn(size.text());
   if (!pixels) return std::nullopt;
-  front::FormOBJ& form = workshop.form;
-  const std::string_view ending =
-      &size == &form.TextMapSize ? mainSheet(form).ending : secondSheet(form).ending;
-  return MapFile{text::throughFirstDot(workshop.session.opening.LabelOBJFileName.caption(), ending),
-                 *pixels};
+  const bool second = size.name() == "TextMapSizeSec";
+  const std::string& mesh = opening.LabelOBJFileName.caption();
+  return MapFile{text::throughFirstDot(mesh, second ? kSecondEnding : kEnding), *pixels};
 }
 
 void wireSaveMap(Workshop& workshop) {

@@ -16,7 +16,7 @@ struct MapFile {
 
 /// What the return key would save with the text that stands in TextMapSize or TextMapSizeSec;
 /// nothing for a size that no picture has.
-std::optional<MapFile> mapFile(const Workshop& workshop, const front::TextBox& size);
+std::optional<MapFile> mapFile(const front::Opening& opening, const front::TextBox& size);
 
 /// A click on LabelSaveMap shows TextMapSize; the return key there saves the template of
 /// PictureUVMap, stretched to that many pixels each way, beside the mesh: the mesh's path up to its

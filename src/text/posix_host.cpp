@@ -1,4 +1,5 @@
 #include "text/host.h"
+#include "text/written_behind.h"
 
 #include <array>
 #include <cerrno>
@@ -107,6 +108,9 @@ class PosixHost final : public HostOps {
     std::unique_ptr<PosixFile> opened;
     const int error = openAs(name, openFlags(mode), opened);
     file = std::move(opened);
+    if (error == 0 && mode == HostOpenMode::update) {
+      file = std::make_unique<WrittenBehind>(std::move(file));
+    }
     return error;
   }
 

@@ -55,6 +55,9 @@ std::uint64_t RecordFile::count() {
 
 void RecordFile::close() {
   flush();
+  // The host may still be writing; its answer says whether it could.
+  std::uint64_t bytes = 0;
+  raise(file_->size(bytes), path_, FileAct::writing);
   file_.reset();
 }
 

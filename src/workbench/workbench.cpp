@@ -72,6 +72,7 @@
 #include "obj/scaler.h"
 #include "obj/sec_map.h"
 #include "obj/uv_map.h"
+#include "obj/view_map.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_colours.h"
 #include "pose/mor_builder.h"
@@ -197,6 +198,7 @@ void Workbench::wireTools() {
   obj::wireUVMap(workshop_);
   obj::wireSecMap(workshop_);
   obj::wireSaveMap(workshop_);
+  obj::wireViewMap(workshop_);
   obj::wireApplyMap(workshop_);
   obj::wireMash(session_);
   obj::wireScaler(session_);

@@ -19,6 +19,7 @@ FaultRows sceneRows();
 FaultRows materialRows();
 FaultRows poseRows();
 FaultRows editorRows();
+FaultRows meshToolRows();
 
 /// So many lines that a file of them is written in several pieces.
 std::string manyLines(const std::string& line);

@@ -49,8 +49,9 @@ class MashFaultsTest : public testing::TestWithParam<HostFault> {
     const bool isNew = drive.read(kFile) == kNew;
     EXPECT_TRUE(isNew || drive.read(kFile) == kOld) << "at " << n;
     EXPECT_TRUE(isNew || met) << "at " << n;
-    if (isNew) EXPECT_TRUE(drive.exists(kBackup)) << "at " << n;
-    if (drive.exists(kBackup)) EXPECT_EQ(drive.read(kBackup), kOld) << "at " << n;
+    const bool kept = drive.exists(kBackup);
+    EXPECT_TRUE(kept || !isNew) << "at " << n;
+    EXPECT_TRUE(!kept || drive.read(kBackup) == kOld) << "at " << n;
     const bool told = events.find("runtime-error") != std::string::npos;
     EXPECT_TRUE(isNew || told) << "at " << n << ": nothing was saved and nothing said\n" << events;
   }
@@ -61,13 +62,14 @@ TEST_P(MashFaultsTest, FileIsOldOrNewAndTheBackupOld) {
   std::uint64_t n = 1;
   while (n < kMost && mashWithFaultAt(n) && !HasFailure()) ++n;
   EXPECT_LT(n, kMost);
-  EXPECT_GT(n, 2U) << "the fault was never met";
+  EXPECT_GT(n, 1U) << "the fault was never met";
 }
 
-INSTANTIATE_TEST_SUITE_P(Mash, MashFaultsTest, testing::ValuesIn(allHostFaults()),
-                         [](const testing::TestParamInfo<HostFault>& info) {
-                           return info.param.name;
-                         });
+std::string faultName(const testing::TestParamInfo<HostFault>& info) {
+  return info.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Mash, MashFaultsTest, testing::ValuesIn(allHostFaults()), faultName);
 
 }  // namespace
 

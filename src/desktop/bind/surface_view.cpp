@@ -2,7 +2,10 @@
 
 #include "desktop/images.h"
 
+#include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -27,20 +30,76 @@ QSize SurfaceView::minimumSizeHint() const {
 void SurfaceView::follow() {
   const QSize size(surface_.width(), surface_.height());
   if (size == shown_) return;
+  zoom_ = 1;
   shown_ = size;
   updateGeometry();
 }
 
-QRectF SurfaceView::pictureBox() const {
+/// The size in which the whole picture is seen.
+QSizeF SurfaceView::fittingSize() const {
   const QSizeF pixels(surface_.width(), surface_.height());
   if (pixels.isEmpty()) return {};
   const qreal dots = devicePixelRatioF();
   const qreal fits = std::min(width() * dots / pixels.width(), height() * dots / pixels.height());
-  const QSizeF size = pixels * ((fits >= 1 ? std::floor(fits) : fits) / dots);
+  return pixels * ((fits >= 1 ? std::floor(fits) : fits) / dots);
+}
+
+QRectF SurfaceView::pictureBox() const {
+  const QSizeF size = fittingSize() * zoom_;
+  if (size.isEmpty()) return {};
   // On a whole dot of the screen, so that each pixel is as large as the next.
-  const auto onDot = [dots](qreal place) { return std::floor(place * dots) / dots; };
-  return {QPointF(onDot((width() - size.width()) / 2), onDot((height() - size.height()) / 2)),
+  const qreal dots = devicePixelRatioF();
+  const auto begin = [dots](qreal room, qreal length, qreal middle) {
+    const qreal place = length <= room ? (room - length) / 2
+                                       : std::clamp(room / 2 - middle * length, room - length, 0.0);
+    return std::floor(place * dots) / dots;
+  };
+  return {QPointF(begin(width(), size.width(), middle_.x()),
+                  begin(height(), size.height(), middle_.y())),
           size};
+}
+
+/// Zooms so that what is at a place stays there, as far as the picture reaches.
+void SurfaceView::zoomTo(qreal zoom, const QPointF& place) {
+  constexpr qreal kMost = 16;
+  const QRectF before = pictureBox();
+  if (before.isEmpty()) return;
+  const QPointF part((place.x() - before.left()) / before.width(),
+                     (place.y() - before.top()) / before.height());
+  zoom_ = std::clamp(zoom, 1.0, kMost);
+  const QSizeF size = fittingSize() * zoom_;
+  middle_ = {std::clamp(part.x() + (width() / 2.0 - place.x()) / size.width(), 0.0, 1.0),
+             std::clamp(part.y() + (height() / 2.0 - place.y()) / size.height(), 0.0, 1.0)};
+  update();
+}
+
+void SurfaceView::wheelEvent(QWheelEvent* event) {
+  constexpr qreal kStep = 120;
+  zoomTo(zoom_ * std::pow(std::sqrt(2.0), event->angleDelta().y() / kStep), event->position());
+  event->accept();
+}
+
+void SurfaceView::mousePressEvent(QMouseEvent* event) {
+  moving_.reset();
+  if (event->button() == Qt::MiddleButton) moving_ = event->position();
+  QWidget::mousePressEvent(event);
+}
+
+void SurfaceView::mouseMoveEvent(QMouseEvent* event) {
+  if (!moving_ || !event->buttons().testFlag(Qt::MiddleButton)) {
+    return QWidget::mouseMoveEvent(event);
+  }
+  const QSizeF size = fittingSize() * zoom_;
+  const QPointF by = event->position() - *moving_;
+  moving_ = event->position();
+  middle_ = {std::clamp(middle_.x() - by.x() / size.width(), 0.0, 1.0),
+             std::clamp(middle_.y() - by.y() / size.height(), 0.0, 1.0)};
+  update();
+}
+
+void SurfaceView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::MiddleButton) zoomTo(1, event->position());
+  QWidget::mouseDoubleClickEvent(event);
 }
 
 QPoint SurfaceView::pixelAt(const QPointF& place) const {

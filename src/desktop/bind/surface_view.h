@@ -5,10 +5,14 @@
 
 #include <QWidget>
 
+#include <optional>
+
 namespace norvik::desktop {
 
 /// Shows the pixels of a surface as they are, in its middle. A larger widget shows each as a square
-/// of as many pixels of the screen as fit; a smaller one shows the whole picture smaller.
+/// of as many pixels of the screen as fit; a smaller one shows the whole picture smaller. The wheel
+/// brings the place under the mouse nearer, the middle button moves what is seen, and a double
+/// click with it shows the whole picture again.
 class SurfaceView : public QWidget {
  public:
   SurfaceView(const graphics::Surface& surface, QWidget* parent);
@@ -25,10 +29,20 @@ class SurfaceView : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
+  QSizeF fittingSize() const;
+  void zoomTo(qreal zoom, const QPointF& place);
+
   const graphics::Surface& surface_;
   QSize shown_;
+  qreal zoom_ = 1;                 ///< of the size that fits
+  QPointF middle_{0.5, 0.5};       ///< what part of the picture is in the widget's middle
+  std::optional<QPointF> moving_;  ///< where the middle button holds the picture
 };
 
 }  // namespace norvik::desktop

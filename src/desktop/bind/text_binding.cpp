@@ -1,12 +1,15 @@
 #include "desktop/bind/text_binding.h"
 
+#include "desktop/ink.h"
 #include "desktop/theme.h"
 #include "desktop/words.h"
+#include "front/rich_text.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
+#include <QTextBlock>
 
 #include <algorithm>
 
@@ -130,7 +133,26 @@ void PageBinding::refresh() {
   const QString text = shownMessage(box_.text());
   if (edit_.toPlainText() != text) edit_.setPlainText(text);
   paintText(edit_, box_.fore());
+  paintLines();
   WidgetBinding::refresh();
+}
+
+/// Writes the lines of a page in their own colours.
+void PageBinding::paintLines() {
+  const auto* page = dynamic_cast<const front::RichTextBox*>(&box_);
+  if (page == nullptr) return;
+  QList<QTextEdit::ExtraSelection> lines;
+  QTextBlock block = edit_.document()->begin();
+  for (const front::Colour colour : page->lineColours()) {
+    if (!block.isValid()) break;
+    QTextEdit::ExtraSelection line;
+    line.cursor = QTextCursor(block);
+    line.cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    line.format.setForeground(readableInk(colour, edit_.palette()));
+    lines.append(line);
+    block = block.next();
+  }
+  edit_.setExtraSelections(lines);
 }
 
 bool PageBinding::mousePressed(const QMouseEvent& event) {

@@ -41,6 +41,7 @@ class PageBinding : public WidgetBinding {
  private:
   void takeText();
   void takeCaret();
+  void paintLines();
 
   front::TextBox& box_;
   QPlainTextEdit& edit_;

@@ -1,6 +1,8 @@
 #include "desktop/bind/text_binding.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/mesh_panes.h"
+#include "desktop/window/name_listing.h"
+#include "desktop/window/template_size.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,12 +20,13 @@ namespace {
 /// The controls of one side: groups, or materials.
 struct Side {
   front::CommandButton& command;
-  front::TextBox& listing;
+  front::RichTextBox& listing;
   front::ListBox& names;
   front::ListBox& saved;
   front::TextBox& newName;
   front::CheckBox& save;
   const char* word;
+  NameKind kind;
 };
 
 QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, const char* name) {
@@ -33,12 +36,12 @@ QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, con
   return *page;
 }
 
-QVBoxLayout* makeSide(Maker& maker, const Side& side, QWidget& parent) {
+QVBoxLayout* makeSide(Maker& maker, front::Session& session, const Side& side, QWidget& parent) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   column->addWidget(maker.make(side.command, parent));
   const QString word = QString::fromLatin1(side.word);
-  column->addWidget(&makePage(maker, side.listing, parent, side.word), 1);
+  column->addWidget(new NameListing(maker, session, side.listing, side.kind, parent), 1);
   for (front::ListBox* list : {&side.names, &side.saved}) {
     auto& view = maker.list(*list, parent);
     view.setAccessibleName(word);
@@ -52,18 +55,10 @@ QVBoxLayout* makeSide(Maker& maker, const Side& side, QWidget& parent) {
   return column;
 }
 
-void addSizes(Maker& maker, front::FormOBJ& form, QWidget& parent, QVBoxLayout& column) {
-  for (front::TextBox* box : {&form.TextMapSize, &form.TextMapSizeSec}) {
-    auto& entry = maker.line(*box, parent);
-    entry.setPlaceholderText(QStringLiteral("Map size"));
-    entry.setAccessibleName(QStringLiteral("Map size"));
-    column.addWidget(&entry);
-  }
-}
-
 }  // namespace
 
-QWidget* makeMeshLists(Maker& maker, front::FormOBJ& form, QWidget& parent) {
+QWidget* makeMeshLists(Maker& maker, front::Session& session, front::FormOBJ& form,
+                       QWidget& parent) {
   constexpr int kNotes = 96;
   auto* panel = new QWidget(&parent);
   auto* column = new QVBoxLayout(panel);
@@ -83,19 +78,22 @@ QWidget* makeMeshLists(Maker& maker, front::FormOBJ& form, QWidget& parent) {
   });
 
   auto* sides = new QHBoxLayout;
-  sides->addLayout(
-      makeSide(maker,
-               {form.CommandListGroups, form.RichTextBoxGroups, form.ListGroups,
-                form.ListGroupsSave, form.TextGrpRename, form.CheckSaveGroups, "Groups"},
-               *panel));
-  sides->addLayout(
-      makeSide(maker,
-               {form.CommandListMats, form.RichTextBoxMaterials, form.ListMaterials,
-                form.ListMaterialsSave, form.TextMatRename, form.CheckSaveMaterials, "Materials"},
-               *panel));
+  sides->addLayout(makeSide(
+      maker, session,
+      {form.CommandListGroups, form.RichTextBoxGroups, form.ListGroups, form.ListGroupsSave,
+       form.TextGrpRename, form.CheckSaveGroups, "Groups", NameKind::group},
+      *panel));
+  sides->addLayout(makeSide(
+      maker, session,
+      {form.CommandListMats, form.RichTextBoxMaterials, form.ListMaterials, form.ListMaterialsSave,
+       form.TextMatRename, form.CheckSaveMaterials, "Materials", NameKind::material},
+      *panel));
   column->addLayout(sides, 1);
   column->addWidget(maker.make(form.LabelRichRename, *panel), 0, Qt::AlignLeft);
-  addSizes(maker, form, *panel, *column);
+  column->addWidget(makeTemplateSize(maker, session, form.TextMapSize,
+                                     QStringLiteral("Size of the template"), *panel));
+  column->addWidget(makeTemplateSize(maker, session, form.TextMapSizeSec,
+                                     QStringLiteral("Size of the second template"), *panel));
   column->addStretch();
 
   auto* notesHeading = new QLabel(QStringLiteral("Notes"), panel);

@@ -3,6 +3,7 @@
 
 #include "desktop/maker.h"
 #include "front/form_obj.h"
+#include "front/session.h"
 
 class QToolBar;
 
@@ -15,6 +16,7 @@ QToolBar* makeMeshTools(Maker& maker, front::FormOBJ& form, QWidget& parent);
 QWidget* makeMeshOptions(Maker& maker, front::FormOBJ& form, QWidget& parent);
 
 /// The lists of groups and materials, the notes, and what the tools ask for.
-QWidget* makeMeshLists(Maker& maker, front::FormOBJ& form, QWidget& parent);
+QWidget* makeMeshLists(Maker& maker, front::Session& session, front::FormOBJ& form,
+                       QWidget& parent);
 
 }  // namespace norvik::desktop

@@ -1,8 +1,6 @@
-// The tools that scale, rename, part and picture a mesh, during which the host fails.
+// The tools that scale, rename, part and picture a mesh.
 
-#include "support/tool_faults.h"
-
-#include <gtest/gtest.h>
+#include "faults/rows.h"
 
 namespace norvik::tests {
 
@@ -40,35 +38,35 @@ std::string whitePicture() {
 
 std::vector<ToolUnderFaults> tools() {
   return {
-      {"Scale",
+      {"MeshScale",
        {{"work/a.obj", kMesh}, {"Norvik/obj.txt", "older"}},
        kOpen + "click PictureScaleObj\ntype TextOBJScale 2\n",
        "key TextOBJScale Enter\n",
        "work/a.obj",
        kScaled,
        {}},
-      {"Rename",
+      {"MeshRename",
        {{"work/a.obj", kMesh}, {"Norvik/newobj.txt", "older"}},
        kView + kRename,
        "choose C:\\work\\a.obj\nclose FormOBJ\n",
        "work/a.obj",
        kRenamed,
        {}},
-      {"RenameAsAnother",
+      {"MeshRenameAsAnother",
        {{"work/a.obj", kMesh}, {"work/b.obj", "another\r\n"}},
        kView + kRename,
        "choose C:\\work\\b.obj\nclose FormOBJ\n",
        "work/b.obj",
        kRenamed,
        {}},
-      {"SavePart",
+      {"MeshPart",
        {{"work/a.obj", kMesh}},
        kView + kTick,
        "choose C:\\work\\part.obj\ntick FormOBJ.ListGroupsSave 2 on\n",
        "work/part.obj",
        kPart,
        {}},
-      {"Template",
+      {"MeshTemplate",
        {{"work/a.obj", kMesh}, {"work/a.bmp", "another picture"}},
        kView + "click FormOBJ.LabelUVMap\nclick FormOBJ.LabelSaveMap\ntype FormOBJ.TextMapSize 2\n",
        "key FormOBJ.TextMapSize Enter\n",
@@ -78,20 +76,14 @@ std::vector<ToolUnderFaults> tools() {
   };
 }
 
-class MeshToolFaultsTest : public testing::TestWithParam<std::tuple<ToolUnderFaults, HostFault>> {};
-
-TEST_P(MeshToolFaultsTest, TargetIsOldOrNew) {
-  const auto& [tool, fault] = GetParam();
-  expectOldOrNew(tool, fault);
-}
-
-INSTANTIATE_TEST_SUITE_P(MeshTools, MeshToolFaultsTest,
-                         testing::Combine(testing::ValuesIn(tools()),
-                                          testing::ValuesIn(allHostFaults())),
-                         [](const testing::TestParamInfo<MeshToolFaultsTest::ParamType>& info) {
-                           return std::get<0>(info.param).name + std::get<1>(info.param).name;
-                         });
-
 }  // namespace
+
+FaultRows meshToolRows() {
+  FaultRows rows;
+  for (const ToolUnderFaults& tool : tools()) {
+    rows.push_back({tool.name, [tool] { return tool; }});
+  }
+  return rows;
+}
 
 }  // namespace norvik::tests
