@@ -62,8 +62,11 @@ void writeMesh(front::Session& session, const std::string& source, const std::st
                const std::string& result, bool turn) {
   text::RewritePass pass(session.disk, source, result);
   text::LineReader vertices(session.disk, vertexLines);
+  static const text::LineFilter looked{text::atStart(" "), text::atStart("v"), text::atStart("f")};
   std::string buffer;
-  while (!pass.in().atEnd()) {
+  for (;;) {
+    pass.copyLines(looked);
+    if (pass.in().atEnd()) break;
     const std::string_view line = withoutTabs(pass.in().line(), buffer);
     if (turn && isFace(line)) {
       pass.out().line(turnedRound(line));
