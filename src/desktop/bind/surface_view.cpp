@@ -8,6 +8,21 @@
 
 namespace norvik::desktop {
 
+namespace {
+
+/// The picture with holes where it is white.
+QImage withoutWhite(const QImage& picture) {
+  QImage cut = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  constexpr QRgb kWhite = 0xFFFFFFFF;
+  for (int y = 0; y < cut.height(); ++y) {
+    auto* row = reinterpret_cast<QRgb*>(cut.scanLine(y));
+    std::replace(row, row + cut.width(), kWhite, QRgb{0});
+  }
+  return cut;
+}
+
+}  // namespace
+
 SurfaceView::SurfaceView(const graphics::Surface& surface, QWidget* parent)
     : QWidget(parent), surface_(surface), shown_(surface.width(), surface.height()) {
   // A click on the picture takes the keys away from lists and boxes, which would use them up.
@@ -30,6 +45,12 @@ void SurfaceView::follow() {
   updateGeometry();
 }
 
+void SurfaceView::placeOver(QPoint offset) {
+  seeThrough_ = true;
+  offset_ = offset;
+  update();
+}
+
 QRectF SurfaceView::pictureBox() const {
   const QSizeF pixels(surface_.width(), surface_.height());
   if (pixels.isEmpty()) return {};
@@ -38,8 +59,9 @@ QRectF SurfaceView::pictureBox() const {
   const QSizeF size = pixels * ((fits >= 1 ? std::floor(fits) : fits) / dots);
   // On a whole dot of the screen, so that each pixel is as large as the next.
   const auto onDot = [dots](qreal place) { return std::floor(place * dots) / dots; };
-  return {QPointF(onDot((width() - size.width()) / 2), onDot((height() - size.height()) / 2)),
-          size};
+  const QPointF middle(onDot((width() - size.width()) / 2), onDot((height() - size.height()) / 2));
+  const qreal dot = size.width() / pixels.width();
+  return {middle + QPointF(offset_) * dot, size};
 }
 
 QPoint SurfaceView::pixelAt(const QPointF& place) const {
@@ -63,7 +85,10 @@ void SurfaceView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform,
                         box.width() * devicePixelRatioF() < surface_.width());
-  painter.drawImage(box, image);
+  if (!seeThrough_) return painter.drawImage(box, image);
+  constexpr qreal kSolid = 0.8;
+  painter.setOpacity(kSolid);
+  painter.drawImage(box, withoutWhite(image));
 }
 
 }  // namespace norvik::desktop

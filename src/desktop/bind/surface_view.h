@@ -17,6 +17,9 @@ class SurfaceView : public QWidget {
   QRectF pictureBox() const;
   /// The pixel of the surface at a place of the widget; beside the picture one beside the surface.
   QPoint pixelAt(const QPointF& place) const;
+  /// Moves the picture from the middle, by pixels of the surface, and lets what lies below show
+  /// through where it is white.
+  void placeOver(QPoint offset);
   /// Takes the surface's present size for its own best.
   void follow();
 
@@ -29,6 +32,8 @@ class SurfaceView : public QWidget {
  private:
   const graphics::Surface& surface_;
   QSize shown_;
+  QPoint offset_;
+  bool seeThrough_ = false;
 };
 
 }  // namespace norvik::desktop

@@ -51,7 +51,7 @@ MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& fo
   side->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   side->setWidgetResizable(true);
   side->setFocusPolicy(Qt::NoFocus);
-  side->setWidget(makeSide(form));
+  side->setWidget(makeSide(session, form));
   side->setFixedWidth(kSideWidth + side->verticalScrollBar()->sizeHint().width());
   middle->addWidget(side);
   column->addLayout(middle, 1);
@@ -60,13 +60,14 @@ MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& fo
   setBusy(false);
 }
 
-QWidget* MeshWindow::makeSide(front::FormOBJ& form) {
+QWidget* MeshWindow::makeSide(front::Session& session, front::FormOBJ& form) {
   auto* side = new QWidget(this);
   side->setObjectName(QStringLiteral("MeshSide"));
   side->setFixedWidth(kSideWidth);
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(makeMeshOptions(maker(), form, *side));
+  column->addWidget(makeMeshSurgery(maker(), session, form, *side));
   column->addWidget(makeMeshLists(maker(), form, *side), 1);
   bindTheRest(form, *side);
   maker().cover(form.ImageRDS, *side, QStringLiteral("boss_chart"));
