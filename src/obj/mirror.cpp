@@ -83,14 +83,10 @@ void mirror(Workshop& workshop) {
   front::Opening& opening = session.opening;
   const MirrorAxes axes = askForAxes(session);
   const std::string source = opening.LabelOBJFileName.caption();
-  const std::string vertexLines = opening.inProgramFolder(kVertexLines);
-  const std::string result = opening.inProgramFolder(kResult);
-  text::keepApart(session.disk, source, vertexLines);
   session.hourglass(true);
-  writeVertexLines(session, vertexLines, axes);
   // Across one axis, or all three, a face looks the other way.
   const bool turned = (axes.x != axes.y) != axes.z;
-  writeMesh(session, source, vertexLines, result, turned && workshop.form.TurnFacesRound);
+  writeMirrored(session, axes, turned && workshop.form.TurnFacesRound);
   session.hourglass(false);
   session.front.messageBox(
       source +
@@ -98,8 +94,8 @@ void mirror(Workshop& workshop) {
           "You may want to rename groups that have Left and Right in their names.  The mesh will "
           "now be displayed, after saving.",
       "Note!", front::kOk);
-  if (const auto saved =
-          saveResult(session, result, source, {"Save the mirrored mesh", front::kMeshFilter})) {
+  if (const auto saved = saveResult(session, opening.inProgramFolder(kResult), source,
+                                    {"Save the mirrored mesh", front::kMeshFilter})) {
     opening.LabelOBJFileName.setCaption(*saved);
     workshop.setTitle(*saved);
   }
@@ -107,6 +103,14 @@ void mirror(Workshop& workshop) {
 }
 
 }  // namespace
+
+void writeMirrored(front::Session& session, const MirrorAxes& axes, bool turnFaces) {
+  const std::string source = session.opening.LabelOBJFileName.caption();
+  const std::string vertexLines = session.opening.inProgramFolder(kVertexLines);
+  text::keepApart(session.disk, source, vertexLines);
+  writeVertexLines(session, vertexLines, axes);
+  writeMesh(session, source, vertexLines, session.opening.inProgramFolder(kResult), turnFaces);
+}
 
 std::string mirroredLine(std::string_view record, const MirrorAxes& axes) {
   constexpr std::size_t kFirstOfX = 3;

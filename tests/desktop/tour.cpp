@@ -4,6 +4,7 @@
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
 //        norvik-tour pose DRIVE SETTINGS OUT      takes those of the pose tools alone
 //        norvik-tour phi DRIVE SETTINGS OUT       takes those of the phi tools alone
+//        norvik-tour surgery DRIVE SETTINGS OUT   takes those of the surgery on meshes alone
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
@@ -16,6 +17,7 @@
 #include "desktop/phi_pictures.h"
 #include "desktop/pose_pictures.h"
 #include "desktop/spin_timing.h"
+#include "desktop/surgery_pictures.h"
 #include "desktop/window_asker.h"
 
 #include <QAction>
@@ -181,6 +183,14 @@ void takePhi(desktop::Program& program, desktop::Operator& hand, const QString& 
       [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 }
 
+/// With a figure open, whose mesh is worked on.
+void takeSurgery(desktop::Program& program, desktop::Operator& hand, const QString& drive,
+                 const Photographer& camera) {
+  desktop::takeSurgeryPictures(
+      hand, drive, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -253,6 +263,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   desktop::takePosePictures(
       hand, drive, [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   takePhi(program, hand, drive, camera);
+  takeSurgery(program, hand, drive, camera);
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -347,6 +358,12 @@ int main(int count, char** arguments) {
       hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
       hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
       takePhi(program, hand, drive, Photographer(program, words.value(4)));
+      QApplication::quit();
+    }
+    if (words[1] == u"surgery"_s) {
+      hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+      hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
+      takeSurgery(program, hand, drive, Photographer(program, words.value(4)));
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);
