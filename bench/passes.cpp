@@ -25,7 +25,7 @@
 #include "front/form_obj.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
-#include "obj/mirror.h"
+#include "obj/surgery/mirror.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_lister.h"
 #include "pose/mor_skeleton.h"

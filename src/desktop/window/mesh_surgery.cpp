@@ -1,6 +1,6 @@
 #include "desktop/window/mesh_panes.h"
-#include "obj/merge.h"
-#include "obj/overlays.h"
+#include "obj/surgery/merge.h"
+#include "obj/surgery/overlays.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>

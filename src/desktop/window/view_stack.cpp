@@ -2,7 +2,7 @@
 
 #include "desktop/gl/gl_support.h"
 #include "desktop/gl/gl_view.h"
-#include "obj/overlays.h"
+#include "obj/surgery/overlays.h"
 
 #include <QLabel>
 

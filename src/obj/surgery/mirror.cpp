@@ -1,4 +1,4 @@
-#include "obj/mirror.h"
+#include "obj/surgery/mirror.h"
 
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"

@@ -1,10 +1,10 @@
-#include "obj/merge.h"
+#include "obj/surgery/merge.h"
 
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/record_walk.h"
-#include "obj/merge_lines.h"
 #include "obj/save_result.h"
+#include "obj/surgery/merge_lines.h"
 #include "text/columns.h"
 #include "text/rewrite_pass.h"
 #include "workshop/reset.h"

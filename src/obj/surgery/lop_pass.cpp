@@ -1,10 +1,10 @@
-#include "obj/lop_pass.h"
+#include "obj/surgery/lop_pass.h"
 
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/obj_number.h"
 #include "mesh/record_walk.h"
-#include "obj/merge_lines.h"
+#include "obj/surgery/merge_lines.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
 
