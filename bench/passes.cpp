@@ -22,11 +22,13 @@
 #include "figure/path_pass.h"
 #include "figure/save.h"
 #include "figure/space_chopper.h"
+#include "front/form_obj.h"
 #include "install/cr2_files.h"
 #include "install/figure_files.h"
 #include "materials/colour_pass.h"
 #include "materials/coordinator_passes.h"
 #include "mesh_passes.h"
+#include "obj/surgery/mirror.h"
 #include "pose/mat_builder.h"
 #include "pose/mat_lister.h"
 #include "pose/mor_skeleton.h"
@@ -191,6 +193,39 @@ void cutBranch(Bench& bench) {
   bench.disk.remove("C:\\cut.obj");
 }
 
+/// The figure as a mesh in view that has no vertices.
+void takeForMesh(Bench& bench) {
+  for (const char* name : {"VArray", "VTArray"}) {
+    text::LineWriter(bench.disk, std::string("C:\\Norvik\\") + name + ".txt").close();
+  }
+  bench.opening.LabelOBJFileName.setCaption(bench.path);
+}
+
+void mirrorMesh(Bench& bench) {
+  takeForMesh(bench);
+  obj::writeMirrored(bench.session, {.x = true, .y = false, .z = false}, false);
+  mustHold(bench.disk.exists("C:\\Norvik\\MirrorOBJ.txt"), "nothing mirrored");
+  bench.disk.remove("C:\\Norvik\\MirrorOBJ.txt");
+}
+
+void cutBox(Bench& bench) {
+  takeForMesh(bench);
+  auto* form = dynamic_cast<front::FormOBJ*>(bench.session.findForm("FormOBJ"));
+  mustHold(form != nullptr, "no workshop");
+  bench.session.load(*form);
+  form->PictureLop.released.raise({});
+  form->PictureStore2.pressed.raise({front::MouseButton::left, 0, 0});
+  bench.choose("lopped.obj");
+  form->PictureStore2.released.raise({front::MouseButton::left, 600, 600});
+  mustHold(bench.disk.exists("C:\\lopped.obj"), "nothing cut");
+  bench.disk.remove("C:\\lopped.obj");
+}
+
+void listGeometries(Bench& bench) {
+  bench.answers().queueBox(front::Answer::yes);
+  bench.opening.PictureOBJExtract.released.raise({});
+}
+
 void extractPart(Bench& bench) {
   constexpr int kExtracting = 69;
   bench.opening.Mode = kExtracting;
@@ -344,6 +379,9 @@ const std::vector<Pass>& passes() {
       pass("cut of a branch", rewrite, plain, cutBranch),
       pass("groups renamed (two passes)", copy, plain, renameNames),
       pass("chosen groups saved", rewrite, plain, saveGroups),
+      pass("mirror of a mesh", rewrite, plain, mirrorMesh),
+      pass("cut of a box", read, plain, cutBox),
+      pass("list of embedded geometries", read, plain, listGeometries),
       pass("extraction of a body part", read, plain, extractPart),
       pass("graft of a body part", rewrite, plain, graftPart),
       pass("path pass", substitution, plain, passPaths),

@@ -2,7 +2,7 @@
 // A face as it is drawn: in the three flat views, and into the list of the 3D view.
 
 #include "mesh/display_writer.h"
-#include "workshop/face_corners.h"
+#include "workshop/plan_points.h"
 #include "workshop/workshop.h"
 
 #include <cstddef>
@@ -25,7 +25,7 @@ class FaceViews {
   Workshop& workshop_;
   ViewScale scale_;
   DisplayWriter display_;
-  FaceCorners corners_{scale_};
+  PlanPoints corners_{scale_};
 };
 
 }  // namespace norvik::obj

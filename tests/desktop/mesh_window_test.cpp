@@ -5,6 +5,8 @@
 #include "front/form_obj.h"
 
 #include <QAbstractItemView>
+#include <QCheckBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QProgressBar>
 #include <QToolButton>
@@ -189,6 +191,41 @@ TEST_F(MeshWindowTest, EscapeUncoversWhatTheBossMustNotSee) {
 TEST_F(MeshWindowTest, TheCloseBoxUnloadsTheForm) {
   workshop.close();
   QTRY_VERIFY_WITH_TIMEOUT(closed, 1000);
+}
+
+TEST_F(MeshWindowTest, TheSecondMeshIsMovedByNumbers) {
+  front::PictureBox& overlay = form.PictureAddObjFront;
+  overlay.setBox({10, 0, 600, 600});
+  front::Mouse grip;
+  overlay.pressed.add([&grip](front::Mouse mouse) { grip = mouse; });
+  overlay.moved.add([&](front::Mouse mouse) {
+    overlay.setBox({overlay.box().left + static_cast<float>(mouse.x - grip.x),
+                    overlay.box().top + static_cast<float>(mouse.y - grip.y), 600, 600});
+  });
+  form.PictureMerge.show();
+  dispatcher.sync();
+  const double unit = static_cast<double>(form.PictureOBJViewer.box().width);
+  find<QDoubleSpinBox>("ShiftRight").setValue(60 / unit);
+  find<QDoubleSpinBox>("ShiftUp").setValue(30 / unit);
+  EXPECT_EQ(overlay.box().left, 70);
+  EXPECT_EQ(overlay.box().top, -30);
+  EXPECT_NEAR(find<QDoubleSpinBox>("ShiftRight").value(), 60 / unit, 1e-4);
+  // The mouse moves the numbers.
+  overlay.setBox({10, 120, 600, 600});
+  dispatcher.sync();
+  EXPECT_NEAR(find<QDoubleSpinBox>("ShiftRight").value(), 0, 1e-4);
+  EXPECT_NEAR(find<QDoubleSpinBox>("ShiftUp").value(), -120 / unit, 1e-4);
+}
+
+TEST_F(MeshWindowTest, TheMirrorTurnsFacesRoundWhereItIsTold) {
+  form.LabelMirror.show();
+  dispatcher.sync();
+  find<QCheckBox>("TurnFacesRound").click();
+  EXPECT_TRUE(form.TurnFacesRound);
+  form.restoreStart();
+  form.LabelMirror.show();
+  dispatcher.sync();
+  EXPECT_FALSE(find<QCheckBox>("TurnFacesRound").isChecked());
 }
 
 }  // namespace

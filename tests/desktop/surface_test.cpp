@@ -192,6 +192,23 @@ TEST_F(SurfaceTest, AHiddenOrDisabledPictureTakesNoMouse) {
   EXPECT_FALSE(view->isVisible());
 }
 
+TEST_F(SurfaceTest, APictureOverAnotherIsMovedAndSeenThroughWhereItIsWhite) {
+  form.Front.surface().setPixel({5, 5}, front::kBlack);
+  view->placeOver({3, -2});
+  EXPECT_EQ(view->pixelAt({8.5, 3.5}), QPoint(5, 5));
+  press({8, 3});
+  drag({10, 4}, Qt::LeftButton);
+  EXPECT_EQ(seen, (std::vector<std::string>{"press 5,5", "move 7,6"}));
+  const QImage drawn = [this] {
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    view->render(&image, {}, {}, {});
+    return image;
+  }();
+  EXPECT_EQ(drawn.pixelColor(20, 20), QColor(Qt::red));
+  EXPECT_LT(drawn.pixelColor(8, 3).red(), 80);
+}
+
 }  // namespace
 
 }  // namespace norvik::desktop

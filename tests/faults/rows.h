@@ -20,6 +20,7 @@ FaultRows materialRows();
 FaultRows poseRows();
 FaultRows editorRows();
 FaultRows meshToolRows();
+FaultRows meshRows();
 
 /// So many lines that a file of them is written in several pieces.
 std::string manyLines(const std::string& line);

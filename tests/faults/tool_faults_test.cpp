@@ -32,7 +32,7 @@ namespace {
 FaultRows allRows() {
   FaultRows all;
   for (const auto rows : {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows,
-                          materialRows, poseRows, editorRows, meshToolRows}) {
+                          materialRows, poseRows, editorRows, meshToolRows, meshRows}) {
     for (FaultRow& row : rows()) all.push_back(std::move(row));
   }
   return all;

@@ -12,6 +12,21 @@
 
 namespace norvik::desktop {
 
+namespace {
+
+/// The picture with holes where it is white.
+QImage withoutWhite(const QImage& picture) {
+  QImage cut = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  constexpr QRgb kWhite = 0xFFFFFFFF;
+  for (int y = 0; y < cut.height(); ++y) {
+    auto* row = reinterpret_cast<QRgb*>(cut.scanLine(y));
+    std::replace(row, row + cut.width(), kWhite, QRgb{0});
+  }
+  return cut;
+}
+
+}  // namespace
+
 SurfaceView::SurfaceView(const graphics::Surface& surface, QWidget* parent)
     : QWidget(parent), surface_(surface), shown_(surface.width(), surface.height()) {
   // A click on the picture takes the keys away from lists and boxes, which would use them up.
@@ -35,6 +50,12 @@ void SurfaceView::follow() {
   updateGeometry();
 }
 
+void SurfaceView::placeOver(QPoint offset) {
+  seeThrough_ = true;
+  offset_ = offset;
+  update();
+}
+
 /// The size in which the whole picture is seen.
 QSizeF SurfaceView::fittingSize() const {
   const QSizeF pixels(surface_.width(), surface_.height());
@@ -54,9 +75,10 @@ QRectF SurfaceView::pictureBox() const {
                                        : std::clamp(room / 2 - middle * length, room - length, 0.0);
     return std::floor(place * dots) / dots;
   };
-  return {QPointF(begin(width(), size.width(), middle_.x()),
-                  begin(height(), size.height(), middle_.y())),
-          size};
+  const QPointF corner(begin(width(), size.width(), middle_.x()),
+                       begin(height(), size.height(), middle_.y()));
+  const qreal dot = surface_.width() == 0 ? 0 : size.width() / surface_.width();
+  return {corner + QPointF(offset_) * dot, size};
 }
 
 /// Zooms so that what is at a place stays there, as far as the picture reaches.
@@ -119,7 +141,11 @@ void SurfaceView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform,
                         box.width() * devicePixelRatioF() < surface_.width());
-  painter.drawImage(box, imageOn(surface_));
+  const QImage image = imageOn(surface_);
+  if (!seeThrough_) return painter.drawImage(box, image);
+  constexpr qreal kSolid = 0.8;
+  painter.setOpacity(kSolid);
+  painter.drawImage(box, withoutWhite(image));
 }
 
 }  // namespace norvik::desktop

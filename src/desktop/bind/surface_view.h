@@ -21,6 +21,9 @@ class SurfaceView : public QWidget {
   QRectF pictureBox() const;
   /// The pixel of the surface at a place of the widget; beside the picture one beside the surface.
   QPoint pixelAt(const QPointF& place) const;
+  /// Moves the picture from the middle, by pixels of the surface, and lets what lies below show
+  /// through where it is white.
+  void placeOver(QPoint offset);
   /// Takes the surface's present size for its own best.
   void follow();
 
@@ -43,6 +46,8 @@ class SurfaceView : public QWidget {
   qreal zoom_ = 1;                 ///< of the size that fits
   QPointF middle_{0.5, 0.5};       ///< what part of the picture is in the widget's middle
   std::optional<QPointF> moving_;  ///< where the middle button holds the picture
+  QPoint offset_;
+  bool seeThrough_ = false;
 };
 
 }  // namespace norvik::desktop

@@ -4,6 +4,7 @@
 #include "desktop/window/swatch_tips.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
@@ -40,6 +41,24 @@ QWidget* makeParts(Maker& maker, front::Opening& opening, QWidget& parent) {
   return side;
 }
 
+/// The owners of embedded geometry. Each click turns one over, so that "DONE" keeps the others.
+QWidget* makeGeometries(Maker& maker, front::Opening& opening, QWidget& parent) {
+  auto* panel = new QWidget(&parent);
+  auto* column = new QVBoxLayout(panel);
+  column->setContentsMargins(0, 0, 0, 0);
+  auto* heading = new QLabel(QStringLiteral("Embedded geometry"), panel);
+  makeHeading(*heading);
+  column->addWidget(heading);
+  auto& list = maker.list(opening.ListOBJExtract, *panel);
+  list.setAccessibleName(QStringLiteral("Embedded geometry"));
+  list.setSelectionMode(QAbstractItemView::MultiSelection);
+  list.setToolTip(
+      QStringLiteral("Choose what to export, then DONE. A right click puts the list away."));
+  column->addWidget(&list, 1);
+  maker.showWhileAny(*panel, {&opening.ListOBJExtract});
+  return panel;
+}
+
 QWidget* makeMaterials(Maker& maker, front::Opening& opening, QWidget& parent) {
   auto* side = new QWidget(&parent);
   auto* column = new QVBoxLayout(side);
@@ -50,10 +69,11 @@ QWidget* makeMaterials(Maker& maker, front::Opening& opening, QWidget& parent) {
   auto& materials = maker.list(opening.ListMaterials, *side);
   materials.setAccessibleName(QStringLiteral("Materials"));
   column->addWidget(&materials, 1);
-  for (front::ListBox* list : {&opening.ListMATColors, &opening.ListMatHiLite,
-                               &opening.ListAltGeomNames, &opening.ListOBJExtract}) {
+  for (front::ListBox* list :
+       {&opening.ListMATColors, &opening.ListMatHiLite, &opening.ListAltGeomNames}) {
     column->addWidget(&maker.list(*list, *side), 1);
   }
+  column->addWidget(makeGeometries(maker, opening, *side), 1);
   auto* swatches = new QHBoxLayout;
   auto& colour = maker.swatch(opening.PictureMatColor, *side);
   keepSwatchTip(maker, opening, opening.PictureMatColor, opening.ListMATColors, colour);

@@ -15,6 +15,11 @@ QToolBar* makeMeshTools(Maker& maker, front::FormOBJ& form, QWidget& parent);
 /// The options of the views.
 QWidget* makeMeshOptions(Maker& maker, front::FormOBJ& form, QWidget& parent);
 
+/// What the window adds to the mirror and the merge: faces turned round, the second mesh moved by
+/// numbers, the merged mesh under another name.
+QWidget* makeMeshSurgery(Maker& maker, front::Session& session, front::FormOBJ& form,
+                         QWidget& parent);
+
 /// The lists of groups and materials, the notes, and what the tools ask for.
 QWidget* makeMeshLists(Maker& maker, front::Session& session, front::FormOBJ& form,
                        QWidget& parent);

@@ -67,6 +67,7 @@ QWidget* MeshWindow::makeSide(front::Session& session, front::FormOBJ& form) {
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(makeMeshOptions(maker(), form, *side));
+  column->addWidget(makeMeshSurgery(maker(), session, form, *side));
   column->addWidget(makeMeshLists(maker(), session, form, *side), 1);
   bindTheRest(form, *side);
   maker().cover(form.ImageRDS, *side, QStringLiteral("boss_chart"));

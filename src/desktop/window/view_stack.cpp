@@ -2,10 +2,12 @@
 
 #include "desktop/gl/gl_support.h"
 #include "desktop/gl/gl_view.h"
+#include "obj/surgery/overlays.h"
 
 #include <QLabel>
 
 #include <algorithm>
+#include <cmath>
 #include <initializer_list>
 
 namespace norvik::desktop {
@@ -22,6 +24,20 @@ class BlankView : public QWidget {
     setPalette(white);
   }
 };
+
+bool isOverlay(front::FormOBJ& form, const front::PictureBox& picture) {
+  const auto overlays = form.overlays();
+  return std::find(overlays.begin(), overlays.end(), &picture) != overlays.end();
+}
+
+/// A second mesh over the one in view: its picture is moved within a view that stays where it is.
+void followOverlay(Maker& maker, front::PictureBox& picture, SurfaceView& view) {
+  maker.watch({&picture}, [&picture, &view] {
+    const front::Box& box = picture.box();
+    view.placeOver({static_cast<int>(std::lround(box.left - obj::kOverlayLeft)),
+                    static_cast<int>(std::lround(box.top - obj::kOverlayTop))});
+  });
+}
 
 }  // namespace
 
@@ -44,7 +60,9 @@ ViewStack::ViewStack(Maker& maker, front::FormOBJ& form, DesktopFrontEnd& frontE
   for (front::Control* control : form.controls()) {
     auto* picture = dynamic_cast<front::PictureBox*>(control);
     if (picture == nullptr || picture == &form.PictureObjViewer2) continue;
-    addView(maker.surface(*picture, *this));
+    SurfaceView& view = maker.surface(*picture, *this);
+    addView(view);
+    if (isOverlay(form, *picture)) followOverlay(maker, *picture, view);
     maker.watch({picture}, [this] { tellWhatToDo(); });
   }
   addView(*maker.make(form.ImageSaveMap, *this));

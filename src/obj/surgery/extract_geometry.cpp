@@ -1,4 +1,4 @@
-#include "obj/extract_geometry.h"
+#include "obj/surgery/extract_geometry.h"
 
 #include "figure/embedded_geometry.h"
 #include "text/columns.h"

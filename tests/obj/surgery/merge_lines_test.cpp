@@ -1,6 +1,6 @@
 // The lines of a second mesh.
 
-#include "obj/merge_lines.h"
+#include "obj/surgery/merge_lines.h"
 
 #include "support/error_number.h"
 

@@ -1,6 +1,6 @@
 // What the window adds to the mirror.
 
-#include "obj/mirror.h"
+#include "obj/surgery/mirror.h"
 
 #include "front/form_obj.h"
 #include "support/scripted_workbench.h"

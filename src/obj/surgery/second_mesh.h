@@ -5,8 +5,8 @@
 #include "mesh/mesh_store.h"
 #include "mesh/obj_line.h"
 #include "mesh/vertex_text.h"
-#include "obj/overlays.h"
-#include "workshop/face_corners.h"
+#include "obj/surgery/overlays.h"
+#include "workshop/plan_points.h"
 #include "workshop/workshop.h"
 
 #include <string_view>
@@ -51,7 +51,7 @@ class SecondMeshPass {
   LineNormaliser normalise_{LineNormaliser::DoubleBlank::kept};
   VertexCutter cut_;
   ViewScale scale_;
-  FaceCorners corners_{scale_};
+  PlanPoints corners_{scale_};
   std::vector<Position> vertices_;
   std::vector<std::size_t> indexes_;
   Bounds bounds_;

@@ -1,9 +1,9 @@
-#include "obj/add_mesh.h"
+#include "obj/surgery/add_mesh.h"
 
 #include "figure/check_sgi.h"
-#include "obj/overlays.h"
-#include "obj/second_mesh.h"
-#include "obj/waiting.h"
+#include "obj/surgery/overlays.h"
+#include "obj/surgery/second_mesh.h"
+#include "obj/surgery/waiting.h"
 #include "workshop/extents.h"
 #include "workshop/reading.h"
 #include "workshop/tool_controls.h"

@@ -1,4 +1,4 @@
-#include "workshop/face_corners.h"
+#include "workshop/plan_points.h"
 
 #include "text/file_error.h"
 
@@ -11,12 +11,12 @@ const Position& vertexAt(std::span<const Position> vertices, std::size_t index) 
   return vertices[index - 1];
 }
 
-void FaceCorners::begin() {
+void PlanPoints::begin() {
   for (auto& points : points_) points.clear();
   count_ = 0;
 }
 
-void FaceCorners::add(const Position& at) {
+void PlanPoints::add(const Position& at) {
   const bool first = count_ == 0;
   if (count_ == 1) {
     for (auto& points : points_) points.pop_back();
@@ -26,15 +26,15 @@ void FaceCorners::add(const Position& at) {
   ++count_;
 }
 
-void FaceCorners::place(std::span<const Position> vertices, std::span<const std::size_t> indexes) {
+void PlanPoints::place(std::span<const Position> vertices, std::span<const std::size_t> indexes) {
   begin();
   for (const std::size_t index : indexes) {
     if (index != 0 && index <= vertices.size()) add(vertices[index - 1]);
   }
 }
 
-void FaceCorners::draw(const std::array<front::PictureBox*, 3>& pictures,
-                       front::Colour colour) const {
+void PlanPoints::draw(const std::array<front::PictureBox*, 3>& pictures,
+                      front::Colour colour) const {
   // A polygon has one corner less than its face.
   if (count_ < 2) return;
   for (std::size_t view = 0; view < pictures.size(); ++view) {

@@ -1,4 +1,4 @@
-#include "obj/mirror.h"
+#include "obj/surgery/mirror.h"
 
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
@@ -62,8 +62,11 @@ void writeMesh(front::Session& session, const std::string& source, const std::st
                const std::string& result, bool turn) {
   text::RewritePass pass(session.disk, source, result);
   text::LineReader vertices(session.disk, vertexLines);
+  static const text::LineFilter looked{text::atStart(" "), text::atStart("v"), text::atStart("f")};
   std::string buffer;
-  while (!pass.in().atEnd()) {
+  for (;;) {
+    pass.copyLines(looked);
+    if (pass.in().atEnd()) break;
     const std::string_view line = withoutTabs(pass.in().line(), buffer);
     if (turn && isFace(line)) {
       pass.out().line(turnedRound(line));
@@ -80,14 +83,10 @@ void mirror(Workshop& workshop) {
   front::Opening& opening = session.opening;
   const MirrorAxes axes = askForAxes(session);
   const std::string source = opening.LabelOBJFileName.caption();
-  const std::string vertexLines = opening.inProgramFolder(kVertexLines);
-  const std::string result = opening.inProgramFolder(kResult);
-  text::keepApart(session.disk, source, vertexLines);
   session.hourglass(true);
-  writeVertexLines(session, vertexLines, axes);
   // Across one axis, or all three, a face looks the other way.
   const bool turned = (axes.x != axes.y) != axes.z;
-  writeMesh(session, source, vertexLines, result, turned && workshop.form.TurnFacesRound);
+  writeMirrored(session, axes, turned && workshop.form.TurnFacesRound);
   session.hourglass(false);
   session.front.messageBox(
       source +
@@ -95,8 +94,8 @@ void mirror(Workshop& workshop) {
           "You may want to rename groups that have Left and Right in their names.  The mesh will "
           "now be displayed, after saving.",
       "Note!", front::kOk);
-  if (const auto saved =
-          saveResult(session, result, source, {"Save the mirrored mesh", front::kMeshFilter})) {
+  if (const auto saved = saveResult(session, opening.inProgramFolder(kResult), source,
+                                    {"Save the mirrored mesh", front::kMeshFilter})) {
     opening.LabelOBJFileName.setCaption(*saved);
     workshop.setTitle(*saved);
   }
@@ -104,6 +103,14 @@ void mirror(Workshop& workshop) {
 }
 
 }  // namespace
+
+void writeMirrored(front::Session& session, const MirrorAxes& axes, bool turnFaces) {
+  const std::string source = session.opening.LabelOBJFileName.caption();
+  const std::string vertexLines = session.opening.inProgramFolder(kVertexLines);
+  text::keepApart(session.disk, source, vertexLines);
+  writeVertexLines(session, vertexLines, axes);
+  writeMesh(session, source, vertexLines, session.opening.inProgramFolder(kResult), turnFaces);
+}
 
 std::string mirroredLine(std::string_view record, const MirrorAxes& axes) {
   constexpr std::size_t kFirstOfX = 3;

@@ -1,4 +1,4 @@
-#include "obj/second_mesh.h"
+#include "obj/surgery/second_mesh.h"
 
 #include "mesh/face_tokens.h"
 #include "text/columns.h"

@@ -1,11 +1,12 @@
-#include "obj/merge.h"
+#include "obj/surgery/merge.h"
 
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/record_walk.h"
-#include "obj/merge_lines.h"
+#include "obj/save_result.h"
+#include "obj/surgery/merge_lines.h"
 #include "text/columns.h"
-#include "text/line_writer.h"
+#include "text/rewrite_pass.h"
 #include "workshop/reset.h"
 
 namespace norvik::obj {
@@ -13,6 +14,7 @@ namespace norvik::obj {
 namespace {
 
 constexpr std::string_view kScratch = "\\Merge.txt";
+constexpr std::string_view kCopy = "\\MergeCopy.txt";
 constexpr std::string_view kResult = "\\MergeTest.obj";
 
 /// Writes the two meshes' records in the order of an OBJ file, and counts those of the first one.
@@ -91,6 +93,22 @@ void merge(Workshop& workshop) {
 }
 
 }  // namespace
+
+bool isMergedInView(front::Session& session) {
+  return session.opening.LabelOBJFileName.caption() == session.opening.inProgramFolder(kResult);
+}
+
+void saveMerged(front::Session& session) {
+  const std::string copy = session.opening.inProgramFolder(kCopy);
+  session.hourglass(true);
+  text::RewritePass pass(session.disk, session.opening.inProgramFolder(kResult), copy);
+  pass.copyRest();
+  pass.finish();
+  session.hourglass(false);
+  const bool saved =
+      saveResult(session, copy, {}, {"Save the merged mesh", front::kMeshFilter}).has_value();
+  if (!saved) text::ignoringErrors([&] { session.disk.remove(copy); });
+}
 
 void wireMerge(Workshop& workshop) {
   workshop.form.PictureMerge.released.add([&workshop](front::Mouse mouse) {

@@ -1,7 +1,7 @@
 #pragma once
 // The pictures in which a second mesh is moved over the one in view.
 
-#include "workshop/face_corners.h"
+#include "workshop/plan_points.h"
 #include "workshop/workshop.h"
 
 #include <array>
@@ -22,7 +22,7 @@ class Overlays {
   /// Puts empty overlays, of the flat views' size, in the place where they come up.
   void begin();
   /// The points of a face.
-  void addPoints(const FaceCorners& corners);
+  void addPoints(const PlanPoints& corners);
   /// Forgets the points and takes the overlays off the screen.
   void end();
 

@@ -1,7 +1,7 @@
-#include "obj/merge_lines.h"
+#include "obj/surgery/merge_lines.h"
 
 #include "mesh/obj_number.h"
-#include "obj/overlays.h"
+#include "obj/surgery/overlays.h"
 #include "text/columns.h"
 #include "text/number_text.h"
 #include "workshop/view_scale.h"

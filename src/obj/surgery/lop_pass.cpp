@@ -1,10 +1,10 @@
-#include "obj/lop_pass.h"
+#include "obj/surgery/lop_pass.h"
 
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/obj_number.h"
 #include "mesh/record_walk.h"
-#include "obj/merge_lines.h"
+#include "obj/surgery/merge_lines.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
 
@@ -77,18 +77,25 @@ void LopPass::writeTexturePoints() {
 }
 
 void LopPass::takeSource() {
+  static const text::LineFilter looked{text::atStart(" "), text::atStart("g"), text::atStart("use"),
+                                       text::atStart("f")};
   LineNormaliser normalise;
   text::LineReader in(workshop_.session.disk, workshop_.session.opening.LabelOBJFileName.caption());
-  while (!in.atEnd()) {
+  for (;;) {
+    const auto before = in.position();
+    in.passLines(looked);
+    const bool lineBetween = in.position() != before;
+    if (in.atEnd()) break;
     const ObjLine line = normalise(in.line());
-    if (line.kind == LineKind::group) {
-      // The one before it, if there is one, has no faces.
-      group_ = line.text;
-      continue;
-    }
-    if (group_) takeGroup(*group_);
+    const bool group = line.kind == LineKind::group;
+    // Right in front of another one it has no faces.
+    if (group_ && (lineBetween || !group)) takeGroup(*group_);
     group_.reset();
-    take(line);
+    if (group) {
+      group_ = line.text;
+    } else {
+      take(line);
+    }
   }
   if (group_) takeGroup(*group_);
 }

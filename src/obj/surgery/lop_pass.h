@@ -3,9 +3,9 @@
 
 #include "mesh/colour_book.h"
 #include "mesh/obj_line.h"
-#include "obj/lop_colours.h"
+#include "obj/surgery/lop_colours.h"
 #include "text/line_writer.h"
-#include "workshop/face_corners.h"
+#include "workshop/plan_points.h"
 #include "workshop/workshop.h"
 
 #include <optional>
@@ -55,7 +55,7 @@ class LopPass {
   ColourBook groupColours_;
   LopColours colours_;
   ViewScale scale_;
-  FaceCorners corners_{scale_};
+  PlanPoints corners_{scale_};
   text::LineWriter* out_ = nullptr;
   std::vector<Position> vertices_;  ///< with all their digits, as their records have them
   std::vector<std::size_t> indexes_;

@@ -1,8 +1,8 @@
-#include "obj/lop_box.h"
+#include "obj/surgery/lop_box.h"
 
-#include "obj/lop_colours.h"
-#include "obj/lop_pass.h"
-#include "obj/waiting.h"
+#include "obj/surgery/lop_colours.h"
+#include "obj/surgery/lop_pass.h"
+#include "obj/surgery/waiting.h"
 #include "text/rewrite_pass.h"
 #include "workshop/reading.h"
 

@@ -1,4 +1,4 @@
-#include "obj/lop_colours.h"
+#include "obj/surgery/lop_colours.h"
 
 #include "mesh/obj_number.h"
 

@@ -19,9 +19,9 @@ const Position& vertexAt(std::span<const Position> vertices, std::size_t index);
 /// The corners of a face, one after the other. The second corner takes the place of the first one
 /// in the list of points, so that a flat view shows the corners from the second on: a triangle is a
 /// line there and a quad a triangle, which keeps the views light.
-class FaceCorners {
+class PlanPoints {
  public:
-  explicit FaceCorners(const ViewScale& scale) : scale_(scale) {}
+  explicit PlanPoints(const ViewScale& scale) : scale_(scale) {}
 
   /// Begins a new face.
   void begin();

@@ -1,4 +1,4 @@
-#include "obj/overlays.h"
+#include "obj/surgery/overlays.h"
 
 #include "mesh/obj_number.h"
 
@@ -47,7 +47,7 @@ void Overlays::begin() {
   }
 }
 
-void Overlays::addPoints(const FaceCorners& corners) {
+void Overlays::addPoints(const PlanPoints& corners) {
   for (std::size_t view = 0; view < points_.size(); ++view) {
     const auto added = corners.in(view);
     points_[view].insert(points_[view].end(), added.begin(), added.end());

@@ -12,4 +12,11 @@ namespace norvik::obj {
 /// and faces are there, cut where their records cut them.
 void wireMerge(Workshop& workshop);
 
+/// Whether "\MergeTest.obj" is the mesh in view.
+bool isMergedInView(front::Session& session);
+
+/// Asks for a further name of "\MergeTest.obj", which the next merge will replace, and writes it
+/// there; an existing file is replaced in one safe step. The mesh in view stays.
+void saveMerged(front::Session& session);
+
 }  // namespace norvik::obj

@@ -20,6 +20,10 @@ struct MirrorAxes {
 /// it holds its numbers twice, unless z is mirrored too: the operator is warned of both.
 std::string mirroredLine(std::string_view record, const MirrorAxes& axes);
 
+/// Writes "\Mirror.txt" and "\MirrorOBJ.txt" in the program folder, out of the records of the mesh
+/// in view and the file of LabelOBJFileName.
+void writeMirrored(front::Session& session, const MirrorAxes& axes, bool turnFaces);
+
 /// A click on LabelMirror asks for each of the three axes, and writes "\Mirror.txt" (the vertex
 /// lines) and "\MirrorOBJ.txt" (the mesh of LabelOBJFileName with these in place of its own) in the
 /// program folder. The operator chooses a place for the latter, and the mesh that he has saved is

@@ -1,4 +1,4 @@
-#include "obj/phi_lopper.h"
+#include "obj/surgery/phi_lopper.h"
 
 #include "workshop/reset.h"
 
