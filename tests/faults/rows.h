@@ -18,6 +18,7 @@ FaultRows phiRows();
 FaultRows sceneRows();
 FaultRows materialRows();
 FaultRows poseRows();
+FaultRows smallToolRows();
 
 /// So many lines that a file of them is written in several pieces.
 std::string manyLines(const std::string& line);

@@ -31,8 +31,8 @@ namespace {
 
 FaultRows allRows() {
   FaultRows all;
-  for (const auto rows :
-       {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows, materialRows, poseRows}) {
+  for (const auto rows : {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows,
+                          materialRows, poseRows, smallToolRows}) {
     for (FaultRow& row : rows()) all.push_back(std::move(row));
   }
   return all;
