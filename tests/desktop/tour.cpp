@@ -4,6 +4,7 @@
 //        norvik-tour pictures DRIVE SETTINGS OUT  takes the pictures of the guide
 //        norvik-tour pose DRIVE SETTINGS OUT      takes those of the pose tools alone
 //        norvik-tour phi DRIVE SETTINGS OUT       takes those of the phi tools alone
+//        norvik-tour small DRIVE SETTINGS OUT     takes those of the small tools alone
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
@@ -15,6 +16,7 @@
 #include "desktop/operator.h"
 #include "desktop/phi_pictures.h"
 #include "desktop/pose_pictures.h"
+#include "desktop/small_tool_pictures.h"
 #include "desktop/spin_timing.h"
 #include "desktop/window_asker.h"
 
@@ -181,6 +183,13 @@ void takePhi(desktop::Program& program, desktop::Operator& hand, const QString& 
       [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 }
 
+void takeSmallTools(desktop::Program& program, desktop::Operator& hand, const QString& drive,
+                    const Photographer& camera) {
+  desktop::takeSmallToolPictures(
+      program, hand, drive, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -253,6 +262,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   desktop::takePosePictures(
       hand, drive, [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   takePhi(program, hand, drive, camera);
+  takeSmallTools(program, hand, drive, camera);
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -347,6 +357,10 @@ int main(int count, char** arguments) {
       hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
       hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
       takePhi(program, hand, drive, Photographer(program, words.value(4)));
+      QApplication::quit();
+    }
+    if (words[1] == u"small"_s) {
+      takeSmallTools(program, hand, drive, Photographer(program, words.value(4)));
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);
