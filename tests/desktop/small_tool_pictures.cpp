@@ -11,10 +11,10 @@ namespace norvik::desktop {
 namespace {
 
 using Qt::StringLiterals::operator""_s;
-using Theme = std::function<void(const QString& theme)>;
+using ChooseTheme = std::function<void(const QString& theme)>;
 using Take = std::function<void(const QString& name, QWidget& window)>;
 
-void takeBothThemes(const QString& name, QWidget& window, const Theme& chooseTheme,
+void takeBothThemes(const QString& name, QWidget& window, const ChooseTheme& chooseTheme,
                     const Take& take) {
   window.move(60, 60);
   take(name, window);
@@ -36,7 +36,8 @@ void pick(Program& program, const std::string& folder, const std::string& file) 
   });
 }
 
-void takeRenamer(Program& program, Operator& hand, const Theme& chooseTheme, const Take& take) {
+void takeRenamer(Program& program, Operator& hand, const ChooseTheme& chooseTheme,
+                 const Take& take) {
   hand.menu({u"MenuCR2Tools"_s, u"MenuDialRen"_s});
   QWidget& window = hand.find(u"Renamer"_s);
   pick(program, "C:\\Runtime\\Libraries\\Characters\\Tilda", "tilda2.cr2");
@@ -49,19 +50,18 @@ void takeRenamer(Program& program, Operator& hand, const Theme& chooseTheme, con
   QTest::qWait(50);
 }
 
-void takeViewer(Operator& hand, const Theme& chooseTheme, const Take& take) {
+void takeViewer(Operator& hand, const ChooseTheme& chooseTheme, const Take& take) {
   hand.hover(u"TextMainTex"_s);
   hand.clickItem(u"ListAllTexMaps"_s, u"tilda.bmp"_s);
   hand.click(u"PictureMapViewer"_s);
   QWidget& window = hand.find(u"FormViewer"_s);
-  QTest::keyClick(&hand.find(u"Map"_s), Qt::Key_Plus);
-  QTest::keyClick(&hand.find(u"Map"_s), Qt::Key_Plus);
+  QTest::keyClick(&hand.find(u"Map"_s), Qt::Key_0);
   takeBothThemes(u"map-viewer"_s, window, chooseTheme, take);
   window.close();
   QTest::qWait(50);
 }
 
-void takeGraphPaper(Operator& hand, const Theme& chooseTheme, const Take& take) {
+void takeGraphPaper(Operator& hand, const ChooseTheme& chooseTheme, const Take& take) {
   hand.menu({u"MenuCR2Tools"_s, u"MenuScale"_s});
   QWidget& window = hand.find(u"FormScale"_s);
   hand.type(u"TextHorizontal"_s, u"320"_s);
@@ -74,7 +74,7 @@ void takeGraphPaper(Operator& hand, const Theme& chooseTheme, const Take& take) 
   QTest::qWait(50);
 }
 
-void takeLauncher(Operator& hand, const Theme& chooseTheme, const Take& take) {
+void takeLauncher(Operator& hand, const ChooseTheme& chooseTheme, const Take& take) {
   hand.menu({u"MenuLauncher"_s});
   QWidget& window = hand.find(u"FormLaunch"_s);
   takeBothThemes(u"launcher"_s, window, chooseTheme, take);
@@ -82,7 +82,7 @@ void takeLauncher(Operator& hand, const Theme& chooseTheme, const Take& take) {
   QTest::qWait(50);
 }
 
-void takeMagnifier(Operator& hand, const QString& drive, const Theme& chooseTheme,
+void takeMagnifier(Operator& hand, const QString& drive, const ChooseTheme& chooseTheme,
                    const Take& take) {
   hand.willChoose(drive + u"/Runtime/Geometries/Tilda/tilda.obj"_s);
   hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
@@ -94,7 +94,7 @@ void takeMagnifier(Operator& hand, const QString& drive, const Theme& chooseThem
   hand.click(u"PictureMagGlass"_s);
   QWidget& window = hand.find(u"Magnifier"_s);
   QWidget& views = hand.find(u"ViewStack"_s);
-  QCursor::setPos(views.mapToGlobal(QPoint(views.width() / 2, views.height() / 5)));
+  QCursor::setPos(views.mapToGlobal(QPoint(views.width() / 2, views.height() * 2 / 5)));
   QTest::keyClick(&window, Qt::Key_F4, Qt::ControlModifier);
   QTest::qWait(200);
   window.move(760, 380);
@@ -113,7 +113,7 @@ void takeMagnifier(Operator& hand, const QString& drive, const Theme& chooseThem
 }  // namespace
 
 void takeSmallToolPictures(Program& program, Operator& hand, const QString& drive,
-                           const Theme& chooseTheme, const Take& take) {
+                           const ChooseTheme& chooseTheme, const Take& take) {
   hand.willChoose(drive + u"/Runtime/Libraries/Characters/Tilda/tilda.cr2"_s);
   hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
   takeRenamer(program, hand, chooseTheme, take);
