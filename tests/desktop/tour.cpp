@@ -7,6 +7,7 @@
 //        norvik-tour install DRIVE SETTINGS OUT   takes those of the installer alone
 //        norvik-tour editor DRIVE SETTINGS OUT    takes those of the editor alone
 //        norvik-tour surgery DRIVE SETTINGS OUT   takes those of the surgery on meshes alone
+//        norvik-tour small DRIVE SETTINGS OUT     takes those of the small tools alone
 //        norvik-tour close DRIVE SETTINGS         closes windows while a mesh spins
 //        norvik-tour spin DRIVE SETTINGS COUNT    measures the frames of COUNT spinning triangles
 //        norvik-tour time DRIVE SETTINGS FILE     measures the start and the opening of a file
@@ -20,6 +21,7 @@
 #include "desktop/operator.h"
 #include "desktop/phi_pictures.h"
 #include "desktop/pose_pictures.h"
+#include "desktop/small_tool_pictures.h"
 #include "desktop/spin_timing.h"
 #include "desktop/surgery_pictures.h"
 #include "desktop/window_asker.h"
@@ -211,6 +213,13 @@ void takeSurgery(desktop::Program& program, desktop::Operator& hand, const QStri
       [&](const QString& name, const QWidget& window) { camera.take(name, window); });
 }
 
+void takeSmallTools(desktop::Program& program, desktop::Operator& hand, const QString& drive,
+                    const Photographer& camera) {
+  desktop::takeSmallToolPictures(
+      program, hand, drive, [&](const QString& name) { chooseTheme(program, name); },
+      [&](const QString& name, const QWidget& window) { camera.take(name, window); });
+}
+
 void takePictures(desktop::Program& program, desktop::Operator& hand, const QString& drive,
                   const QString& folder) {
   const Photographer camera(program, folder);
@@ -286,6 +295,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   takeInstaller(program, hand, drive, camera);
   takeEditor(program, hand, drive, camera);
   takeSurgery(program, hand, drive, camera);
+  takeSmallTools(program, hand, drive, camera);
   chooseTheme(program, u"system"_s);
   hand.menu({u"menuFile"_s, u"MenuFileExit"_s});
 }
@@ -398,6 +408,10 @@ int main(int count, char** arguments) {
       hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
       hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
       takeSurgery(program, hand, drive, Photographer(program, words.value(4)));
+      QApplication::quit();
+    }
+    if (words[1] == u"small"_s) {
+      takeSmallTools(program, hand, drive, Photographer(program, words.value(4)));
       QApplication::quit();
     }
     if (words[1] == u"close"_s) closeWhileItSpins(program, hand, drive);

@@ -21,6 +21,7 @@ FaultRows poseRows();
 FaultRows editorRows();
 FaultRows meshToolRows();
 FaultRows meshRows();
+FaultRows smallToolRows();
 
 /// So many lines that a file of them is written in several pieces.
 std::string manyLines(const std::string& line);

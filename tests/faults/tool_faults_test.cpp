@@ -31,8 +31,9 @@ namespace {
 
 FaultRows allRows() {
   FaultRows all;
-  for (const auto rows : {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows,
-                          materialRows, poseRows, editorRows, meshToolRows, meshRows}) {
+  for (const auto rows :
+       {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows, materialRows, poseRows,
+        editorRows, meshToolRows, meshRows, smallToolRows}) {
     for (FaultRow& row : rows()) all.push_back(std::move(row));
   }
   return all;

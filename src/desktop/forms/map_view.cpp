@@ -35,13 +35,8 @@ bool MapView::empty() const {
 void MapView::setPicture(const QImage& picture) {
   picture_->setPixmap(QPixmap::fromImage(picture));
   scene()->setSceneRect(picture_->boundingRect());
-  const bool larger =
-      picture.width() > viewport()->width() || picture.height() > viewport()->height();
-  if (larger) {
-    fit();
-  } else {
-    setZoom(1);
-  }
+  rule_ = Rule::wholeAtMost;
+  follow();
 }
 
 double MapView::zoom() const {
@@ -57,7 +52,7 @@ void MapView::scaleTo(double zoom) {
 }
 
 void MapView::setZoom(double zoom) {
-  fits_ = false;
+  rule_ = Rule::chosen;
   scaleTo(zoom);
 }
 
@@ -66,12 +61,22 @@ void MapView::zoomBy(int steps) {
 }
 
 void MapView::fit() {
-  if (empty()) return;
-  fits_ = true;
+  rule_ = Rule::whole;
+  follow();
+}
+
+double MapView::zoomThatFits() const {
   const QRectF whole = picture_->boundingRect();
   const QSize room = maximumViewportSize();
-  scaleTo(std::min(room.width() / whole.width(), room.height() / whole.height()) *
-          devicePixelRatioF());
+  return std::min(room.width() / whole.width(), room.height() / whole.height()) *
+         devicePixelRatioF();
+}
+
+/// Zooms by the rule.
+void MapView::follow() {
+  if (empty() || rule_ == Rule::chosen) return;
+  const double fits = zoomThatFits();
+  scaleTo(rule_ == Rule::whole ? fits : std::min(fits, 1.0));
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
@@ -82,7 +87,7 @@ void MapView::wheelEvent(QWheelEvent* event) {
 
 void MapView::resizeEvent(QResizeEvent* event) {
   QGraphicsView::resizeEvent(event);
-  if (fits_) fit();
+  follow();
 }
 
 void MapView::keyPressEvent(QKeyEvent* event) {

@@ -10,7 +10,7 @@ class QGraphicsPixmapItem;
 namespace norvik::desktop {
 
 /// Shows a picture whole, or as large as the operator likes: the wheel zooms at the mouse, a drag
-/// moves the picture. As long as it is shown whole it follows the size of the window.
+/// moves the picture. Until the operator zooms it follows the size of the window.
 class MapView : public QGraphicsView {
  public:
   explicit MapView(QWidget* parent);
@@ -28,7 +28,6 @@ class MapView : public QGraphicsView {
   /// A step nearer, or with a negative number farther away.
   void zoomBy(int steps);
   void fit();
-  bool fits() const { return fits_; }
 
  protected:
   void wheelEvent(QWheelEvent* event) override;
@@ -37,10 +36,13 @@ class MapView : public QGraphicsView {
 
  private:
   void scaleTo(double zoom);
+  double zoomThatFits() const;
+  void follow();
 
   QGraphicsPixmapItem* picture_;
   std::function<void()> zoomed_;
-  bool fits_ = false;
+  /// What decides the zoom: the operator, the window's size, or that too, but not above 1.
+  enum class Rule { chosen, whole, wholeAtMost } rule_ = Rule::wholeAtMost;
 };
 
 }  // namespace norvik::desktop

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -117,11 +118,13 @@ QLayout* RenamerWindow::makeFiles() {
 QLayout* RenamerWindow::makeDirections() {
   auto* row = new QHBoxLayout;
   const auto add = [&](front::Label& label, const QString& tip) {
-    QPushButton& button = makeLabelButton(maker(), label, *this);
-    button.setCheckable(true);
-    button.setToolTip(tip);
-    row->addWidget(&button, 1);
-    return &button;
+    auto* button = new QRadioButton(this);
+    button->setAutoExclusive(false);  // the form knows which one counts
+    button->setToolTip(tip);
+    maker().bindings().add(
+        std::make_unique<LabelButtonBinding>(maker().dispatcher(), label, *button));
+    row->addWidget(button, 1);
+    return button;
   };
   friendly_ =
       add(form_.LabelFriendly, QStringLiteral("GetStringRes(1028,4) becomes Bend: names to read"));

@@ -10,6 +10,7 @@
 
 class QLabel;
 class QPushButton;
+class QRadioButton;
 class QTreeWidget;
 
 namespace norvik::desktop {
@@ -32,8 +33,8 @@ class RenamerWindow : public FormWindow {
 
   front::Session& session_;
   dials::Renamer& form_;
-  QPushButton* friendly_ = nullptr;
-  QPushButton* getSR_ = nullptr;
+  QRadioButton* friendly_ = nullptr;
+  QRadioButton* getSR_ = nullptr;
   QPushButton* undo_ = nullptr;
   QLabel* outcome_ = nullptr;
   QTreeWidget* changes_ = nullptr;
