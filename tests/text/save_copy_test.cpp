@@ -19,22 +19,25 @@ using tests::FaultyHost;
 
 /// Several blocks, with bytes of all kinds.
 std::string manyBytes() {
-  constexpr std::size_t kSize = std::size_t{600} * 1024 + 7;
+  constexpr std::size_t kSize = std::size_t{300} * 1024 + 7;
   std::string bytes(kSize, '\0');
   for (std::size_t i = 0; i < kSize; ++i) bytes[i] = static_cast<char>(i * 31 % 251);
   return bytes;
 }
 
-class SaveCopyTest : public testing::Test, public tests::Drive {};
+class SaveCopyTest : public testing::Test, public tests::Drive {
+ protected:
+  const std::string bytes_ = manyBytes();
+};
 
 TEST_F(SaveCopyTest, CopiesByteForByteAndLeavesTheFile) {
-  folder.write("made.obj", manyBytes());
+  folder.write("made.obj", bytes_);
   folder.write("old.obj", "old");
   saveCopy(disk, "C:\\made.obj", "C:\\old.obj", "C:\\s.tmp");
   saveCopy(disk, "C:\\made.obj", "C:\\new.obj", "C:\\s.tmp");
-  EXPECT_TRUE(folder.read("made.obj") == manyBytes());
-  EXPECT_TRUE(folder.read("old.obj") == manyBytes());
-  EXPECT_TRUE(folder.read("new.obj") == manyBytes());
+  EXPECT_TRUE(folder.read("made.obj") == bytes_);
+  EXPECT_TRUE(folder.read("old.obj") == bytes_);
+  EXPECT_TRUE(folder.read("new.obj") == bytes_);
   EXPECT_FALSE(folder.exists("s.tmp"));
 }
 
@@ -54,7 +57,7 @@ TEST_F(SaveCopyTest, MissingFileIs53) {
 TEST_F(SaveCopyTest, WhateverFailsTheTargetIsOldOrNew) {
   for (const Fault fault : {Fault::error, Fault::fullDisk, Fault::powerLost}) {
     for (std::uint64_t n = 1;; ++n) {
-      folder.write("made.obj", manyBytes());
+      folder.write("made.obj", bytes_);
       folder.write("old.obj", "old");
       bool met = false;
       {
@@ -66,8 +69,8 @@ TEST_F(SaveCopyTest, WhateverFailsTheTargetIsOldOrNew) {
         met = faulty.faultMet();
       }
       const std::string result = folder.read("old.obj");
-      EXPECT_TRUE(result == "old" || result == manyBytes()) << n;
-      EXPECT_TRUE(folder.read("made.obj") == manyBytes()) << n;
+      EXPECT_TRUE(result == "old" || result == bytes_) << n;
+      EXPECT_TRUE(folder.read("made.obj") == bytes_) << n;
       if (!met) break;
     }
   }
