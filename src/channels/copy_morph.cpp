@@ -56,7 +56,9 @@ void offerResult(front::Session& session) {
                                "Success!", front::kYesNo);
   if (answer != front::Answer::yes) return;
   front::CommonDialog& dialog = opening.CommonDialog2;
-  if (!dialog.save(session.front, session.disk.currentFolder(), proposed)) return;
+  if (!dialog.save(session.front, session.disk.currentFolder(), proposed, {},
+                   {"Save the figure with the copied channels", front::kFigureFilter}))
+    return;
   session.disk.replace(opening.inProgramFolder(kMergedFile), dialog.fileName());
 }
 

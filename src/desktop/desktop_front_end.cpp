@@ -156,7 +156,7 @@ std::optional<std::string> DesktopFrontEnd::fileDialog(const front::FileDialog& 
   const ArrowMeanwhile arrow(hourglass_);
   const auto answer = asker_.file(
       {.save = dialog.kind == Kind::save,
-       .title = shown(dialog.purpose.empty() ? dialog.title : dialog.purpose),
+       .title = shown(dialog.title),
        .filter = windowFilter(dialog.filter),
        .folder = hostFolder(dialog.folder),
        .name = proposedName(dialog.file),

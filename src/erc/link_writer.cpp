@@ -102,7 +102,8 @@ class LinkWriter {
   }
 
   void save() {
-    const auto chosen = figure::chooseSavePath(session_, figure_);
+    const auto chosen =
+        figure::chooseSavePath(session_, figure_, "Save the figure with the new link");
     if (!chosen) return;
     if (*chosen == figure_) {
       session_.disk.replace(scratch_, figure_);

@@ -19,8 +19,8 @@ void showTotals(front::Opening& opening, const BracketCount& total) {
 void BracketChecker(front::Session& session) {
   front::Opening& opening = session.opening;
   if (opening.OpenedPath.empty()) {
-    if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), "Open",
-                                    {"Check the brackets of a file", front::kFigureFilter, {}})) {
+    if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), {},
+                                    {"Check the brackets of a file", front::kFigureFilter})) {
       return;
     }
     opening.OpenedPath = opening.CommonDialog1.fileName();

@@ -40,9 +40,8 @@ void openFile(front::Session& session) {
     savePathsBeforeOpen(session);
   }
   if (!opening.SkipOpenDialog) {
-    if (!opening.CommonDialog1.open(
-            session.front, session.disk.currentFolder(), "Open",
-            {"Open a figure, scene, prop or mesh", front::kFigureFilter, {}})) {
+    if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), {},
+                                    {"Open a figure, scene, prop or mesh", front::kFigureFilter})) {
       return;
     }
     leaveChannelReorder(opening);

@@ -16,11 +16,11 @@ std::string withColons(std::string_view path) {
 }
 
 void browseForMap(front::Session& session, front::Label& label, front::TextBox& box,
-                  front::CommonDialog& dialog) {
+                  front::CommonDialog& dialog, std::string_view purpose) {
   // The label is marked before anything is chosen, and stays so.
   label.setFore(front::kPathEdited);
   // A cancel leaves the dialog's last name in force.
-  dialog.open(session.front, session.disk.currentFolder());
+  dialog.open(session.front, session.disk.currentFolder(), {}, {purpose, front::kMapFilter});
   const std::string& name = dialog.fileName();
   if (name.empty()) return;
   const std::string path = name.substr(0, 1) + withColons(text::from(name, 3));
@@ -38,7 +38,8 @@ void browseForObj(front::Session& session) {
   front::CommonDialog& dialog = opening.CommonDialog4;
   const std::string& present = opening.LabelFileNameForEditor.caption();
   dialog.setFileName(present);
-  dialog.open(session.front, session.disk.currentFolder());
+  dialog.open(session.front, session.disk.currentFolder(), {},
+              {"Where is the figure's mesh?", front::kMeshFilter});
   if (dialog.fileName() == present) return;
   const std::size_t runtime = text::column(dialog.fileName(), "Runtime");
   if (runtime == 0) {
@@ -72,15 +73,19 @@ void wirePathBoxes(front::Session& session) {
     front::Label& label;
     front::TextBox& box;
     front::CommonDialog& dialog;
+    std::string_view purpose;
   };
-  const MapBox maps[] = {
-      {opening.LabelMainTex, opening.TextMainTex, opening.CommonDialog5},
-      {opening.LabelMainBump, opening.TextMainBump, opening.CommonDialog6},
-      {opening.LabelMainTrans, opening.TextMainTrans, opening.CommonDialog7},
-      {opening.LabelMainReflect, opening.TextMainReflect, opening.CommonDialog8}};
+  const MapBox maps[] = {{opening.LabelMainTex, opening.TextMainTex, opening.CommonDialog5,
+                          "Where is the main texture?"},
+                         {opening.LabelMainBump, opening.TextMainBump, opening.CommonDialog6,
+                          "Where is the main bump map?"},
+                         {opening.LabelMainTrans, opening.TextMainTrans, opening.CommonDialog7,
+                          "Where is the main transparency map?"},
+                         {opening.LabelMainReflect, opening.TextMainReflect, opening.CommonDialog8,
+                          "Where is the main reflection map?"}};
   for (const MapBox& map : maps) {
     map.label.clicked.add(
-        [&session, map] { browseForMap(session, map.label, map.box, map.dialog); });
+        [&session, map] { browseForMap(session, map.label, map.box, map.dialog, map.purpose); });
     map.box.doubleClicked.add([&session, map] { takeTypedPath(session, map.label, map.box); });
   }
   opening.LabelMainOBJPath.clicked.add([&session] { browseForObj(session); });

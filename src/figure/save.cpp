@@ -19,8 +19,8 @@ PathSlots slotsForFile(const front::Opening& opening) {
 
 bool askForTarget(front::Session& session, std::string_view folder) {
   front::Opening& opening = session.opening;
-  return opening.CommonDialog2.save(session.front, folder, opening.OpenedPath, "Save As",
-                                    {"Save the figure as", front::kFigureFilter, {}});
+  return opening.CommonDialog2.save(session.front, folder, opening.OpenedPath, {},
+                                    {"Save the figure as", front::kFigureFilter});
 }
 
 /// Puts the pass's result in the place of the chosen file. A file there that is not to be deleted

@@ -2,9 +2,12 @@
 
 namespace norvik::figure {
 
-std::optional<std::string> chooseSavePath(front::Session& session, std::string_view proposed) {
+std::optional<std::string> chooseSavePath(front::Session& session, std::string_view proposed,
+                                          std::string_view purpose) {
   front::CommonDialog& dialog = session.opening.CommonDialog2;
-  if (!dialog.save(session.front, session.disk.currentFolder(), proposed)) return std::nullopt;
+  if (!dialog.save(session.front, session.disk.currentFolder(), proposed, {},
+                   {purpose, front::kFigureFilter}))
+    return std::nullopt;
   return dialog.fileName();
 }
 

@@ -9,8 +9,9 @@
 
 namespace norvik::figure {
 
-/// Asks the operator for it: the save dialog in the current folder, with a proposed name. Nothing
-/// on a cancel.
-std::optional<std::string> chooseSavePath(front::Session& session, std::string_view proposed);
+/// Asks the operator for it: the save dialog in the current folder, with a proposed name, and with
+/// what is saved as its title. Nothing on a cancel.
+std::optional<std::string> chooseSavePath(front::Session& session, std::string_view proposed,
+                                          std::string_view purpose = "Save the figure as");
 
 }  // namespace norvik::figure

@@ -16,9 +16,9 @@ void openSource(front::Session& session) {
     session.front.messageBox("Open a destination file first.", "Note!", front::kOk);
     return;
   }
-  const bool chosen = opening.CommonDialog3.open(
-      session.front, session.disk.currentFolder(), "Open",
-      {"Open a source figure to copy from", front::kCharacterFilter, {}});
+  const bool chosen =
+      opening.CommonDialog3.open(session.front, session.disk.currentFolder(), {},
+                                 {"Open a source figure to copy from", front::kCharacterFilter});
   if (!chosen || opening.CommonDialog3.fileName().empty()) return;
   opening.OpenedPath = opening.CommonDialog3.fileName();
   if (text::extension(opening.OpenedPath) != "cr2") {

@@ -8,12 +8,12 @@
 
 namespace norvik::front {
 
-/// What a window says about a dialog: what the file is for, the kinds of files it may be, and a
-/// hint. None of it changes what can be chosen.
+/// What a dialog says: what the file is for, which is its title where it has no other, the kinds of
+/// files it may be, and a hint. None of it changes what can be chosen.
 struct DialogWords {
-  std::string_view purpose;
-  std::string_view filter;
-  std::string_view hint;
+  std::string_view purpose{};
+  std::string_view filter{};
+  std::string_view hint{};
 };
 
 inline constexpr std::string_view kFigureFilter =
@@ -21,6 +21,11 @@ inline constexpr std::string_view kFigureFilter =
     "Figures (CR2)|*.cr2|All files|*.*";
 inline constexpr std::string_view kCharacterFilter = "Figures (CR2)|*.cr2|All files|*.*";
 inline constexpr std::string_view kMeshFilter = "Meshes (OBJ)|*.obj|All files|*.*";
+inline constexpr std::string_view kSceneFilter = "Scenes (PZ3)|*.pz3|All files|*.*";
+inline constexpr std::string_view kPoseFilter = "Poses (PZ2)|*.pz2|All files|*.*";
+inline constexpr std::string_view kPhiFilter = "Hierarchies (PHI)|*.phi|All files|*.*";
+inline constexpr std::string_view kMapFilter =
+    "Pictures|*.jpg;*.jpeg;*.bmp;*.png;*.tif;*.tiff;*.bum;*.gif;*.tga|All files|*.*";
 
 /// A file dialog of the main form. Between uses it keeps its last file name, which tools rely on:
 /// one that does not ask for a cancel takes that name again.
@@ -36,11 +41,11 @@ class CommonDialog {
 
   /// Shows the dialog for opening, in a folder, with its last file name. Whether it was accepted;
   /// after a cancel the file name is what it was.
-  bool open(FrontEnd& front, std::string_view folder, std::string_view title = "Open",
+  bool open(FrontEnd& front, std::string_view folder, std::string_view title = {},
             const DialogWords& words = {});
   /// Shows it for saving, with a proposed name.
   bool save(FrontEnd& front, std::string_view folder, std::string_view proposed,
-            std::string_view title = "Save As", const DialogWords& words = {});
+            std::string_view title = {}, const DialogWords& words = {});
 
  private:
   bool show(FrontEnd& front, FileDialog::Kind kind, std::string_view title, std::string_view folder,

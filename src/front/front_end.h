@@ -44,10 +44,9 @@ struct FileDialog {
   std::string name{};  ///< of the dialog control
   std::string title{};
   std::string filter{};
-  std::string folder{};   ///< the initial folder
-  std::string file{};     ///< the proposed name
-  std::string purpose{};  ///< what the file is for, as a window's title says it; may be empty
-  std::string hint{};     ///< what a window adds to that; may be empty
+  std::string folder{};  ///< the initial folder
+  std::string file{};    ///< the proposed name
+  std::string hint{};    ///< what a window adds to the title; may be empty
 };
 
 /// The outcome of a fetch over the network. `error` is 0 when the front end does not fetch at all.

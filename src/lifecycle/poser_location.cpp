@@ -6,11 +6,10 @@ namespace norvik::lifecycle {
 
 void askForPoser(front::Session& session) {
   session.opening.CommonDialogFindPoser.open(
-      session.front, session.disk.currentFolder(), "Open",
+      session.front, session.disk.currentFolder(), {},
       {"Where is Poser.exe?", "Poser's program|*.exe|All files|*.*",
        "Norvik looks beside it for the meshes and textures that figures name. Without Poser, "
-       "Cancel "
-       "is fine: the place can be told later, with File, Poser Location."});
+       "Cancel is fine: the place can be told later, with File, Poser Location."});
 }
 
 void storePoserLocation(front::Session& session) {

@@ -54,7 +54,9 @@ bool makeChange(front::Session& session, const Change& change, std::uint64_t pos
   writeColour(session.disk, path, scratch, change.key, change.colour, position);
   {
     const front::ResultOffer offer(session, scratch, path);
-    if (!opening.CommonDialog3.save(session.front, session.disk.currentFolder(), path)) {
+    if (!opening.CommonDialog3.save(
+            session.front, session.disk.currentFolder(), path, {},
+            {"Save the figure with the new colour", front::kFigureFilter})) {
       session.hourglass(false);
       return false;
     }

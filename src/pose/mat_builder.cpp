@@ -115,7 +115,9 @@ void save(front::Session& session, const std::string& scratch) {
   const std::string poser = session.settings.get("Startup", "PLoc", "0");
   front::CommonDialog& dialog = session.opening.CommonDialog2;
   const std::string proposed = dialog.fileName();
-  if (!dialog.save(session.front, text::withoutLast(poser, 1), proposed)) return;
+  if (!dialog.save(session.front, text::withoutLast(poser, 1), proposed, {},
+                   {"Save the MAT pose as", front::kPoseFilter}))
+    return;
   text::ignoringErrors([&] { session.disk.replace(scratch, dialog.fileName()); });
 }
 

@@ -57,7 +57,8 @@ void finish(front::Session& session, FormMOR& form) {
   session.disk.remove(skeleton);
   front::CommonDialog& dialog = opening.CommonDialog2;
   const std::string proposed = dialog.fileName();
-  if (dialog.save(session.front, session.disk.currentFolder(), proposed)) {
+  if (dialog.save(session.front, session.disk.currentFolder(), proposed, {},
+                  {"Save the MOR pose as", front::kPoseFilter})) {
     text::ignoringErrors([&] { session.disk.replace(result, dialog.fileName()); });
   }
   session.unload(form);

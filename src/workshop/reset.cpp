@@ -18,8 +18,8 @@ constexpr auto kMapFiles = std::to_array<std::string_view>(
 void askForMesh(Workshop& workshop) {
   front::Session& session = workshop.session;
   front::Opening& opening = session.opening;
-  if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), "Open",
-                                  {"Open a mesh", front::kMeshFilter, {}})) {
+  if (!opening.CommonDialog1.open(session.front, session.disk.currentFolder(), {},
+                                  {"Open a mesh", front::kMeshFilter})) {
     return;
   }
   opening.LabelOBJFileName.setCaption(opening.CommonDialog1.fileName());

@@ -98,7 +98,7 @@ TEST_F(FrontEndTest, ADialogHasPosersLibrariesAndTheFoldersUsedLast) {
   fs::create_directories(folder.path() + "/Poser/Runtime/Libraries/Hair");
   fs::create_directories(folder.path() + "/mine");
   opening.PoserLocation = "C:\\Poser\\";
-  const front::FileDialog dialog{.purpose = "Open a figure"};
+  const front::FileDialog dialog{.title = "Open a figure"};
   asker.paths = {QString::fromStdString(folder.path() + "/mine/a.cr2")};
   frontEnd.fileDialog(dialog);
   frontEnd.fileDialog(dialog);

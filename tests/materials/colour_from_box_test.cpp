@@ -51,7 +51,7 @@ class ColourFromBoxTest : public testing::Test {
 const std::string kAsked =
     R"({"event":"box","title":"Confirm","text":"Set color to this color for skin?","style":1,"answer":)";
 const std::string kSave =
-    R"({"event":"dialog","kind":"save","name":"CommonDialog3","title":"Save As","folder":"C:\\Poser\\Runtime\\Geometries\\doll","file":"C:\\a.cr2","result":)";
+    R"({"event":"dialog","kind":"save","name":"CommonDialog3","title":"Save the figure with the new colour","folder":"C:\\Poser\\Runtime\\Geometries\\doll","file":"C:\\a.cr2","result":)";
 
 TEST_F(ColourFromBoxTest, WritesTheBoxesBackground) {
   EXPECT_EQ(

@@ -39,7 +39,9 @@ bool writePhi(front::Session& session, const std::string& figure, const std::str
 void createPhi(front::Session& session, FormPhi& form) {
   front::Opening& opening = session.opening;
   front::CommonDialog& dialog = opening.CommonDialog1;
-  if (!dialog.open(session.front, session.disk.currentFolder())) return;
+  if (!dialog.open(session.front, session.disk.currentFolder(), {},
+                   {"Make a phi file of a figure", front::kCharacterFilter}))
+    return;
   std::string figure = dialog.fileName();
   if (text::extension(figure) != "cr2") {
     session.front.messageBox("Wrong file type!", "Error!", front::kOk);

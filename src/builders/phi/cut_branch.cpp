@@ -55,7 +55,9 @@ void cutBranch(front::Session& session, FormTree& form) {
   session.hourglass(false);
 
   front::CommonDialog& dialog = opening.CommonDialog2;
-  if (!dialog.save(session.front, session.disk.currentFolder(), mesh)) return;
+  if (!dialog.save(session.front, session.disk.currentFolder(), mesh, {},
+                   {"Save the mesh without the branch", front::kMeshFilter}))
+    return;
   text::ignoringErrors([&] { store(session, scratch, dialog.fileName()); });
   opening.LabelOBJFileName.setCaption(dialog.fileName());
   session.unload(form);

@@ -48,7 +48,9 @@ bool haveFigure(front::Session& session) {
   session.front.messageBox("Open the appropriate CR2 file.", "Note", front::kOk);
   front::CommonDialog& dialog = opening.CommonDialog1;
   dialog.setFileName({});
-  if (!dialog.open(session.front, session.disk.currentFolder())) return false;
+  if (!dialog.open(session.front, session.disk.currentFolder(), {},
+                   {"Open the figure that the mesh belongs to", front::kCharacterFilter}))
+    return false;
   opening.LabelFileNameForEditor.setCaption(dialog.fileName());
   return true;
 }

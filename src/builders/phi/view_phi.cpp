@@ -14,7 +14,9 @@ void showPhi(front::Session& session, FormPhi& form, const std::string& path) {
 void wireViewPhi(front::Session& session, FormPhi& form) {
   session.opening.MenuViewPhi.clicked.add([&session, &form] {
     front::CommonDialog& dialog = session.opening.CommonDialog8;
-    if (!dialog.open(session.front, session.disk.currentFolder())) return;
+    if (!dialog.open(session.front, session.disk.currentFolder(), {},
+                     {"View a phi file", front::kPhiFilter}))
+      return;
     showPhi(session, form, dialog.fileName());
   });
 }

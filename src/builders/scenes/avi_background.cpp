@@ -41,7 +41,9 @@ bool renamed(text::Disk& disk, const std::string& scratch, const std::string& na
 void PZ3AVI(front::Session& session) {
   front::Opening& opening = session.opening;
   front::CommonDialog& dialog = opening.CommonDialog1;
-  if (!dialog.open(session.front, session.disk.currentFolder(), "Open PZ3 File")) return;
+  if (!dialog.open(session.front, session.disk.currentFolder(), "Open PZ3 File",
+                   {{}, front::kSceneFilter}))
+    return;
   const std::string scene = dialog.fileName();
   const std::string scratch = opening.inProgramFolder(kScratch);
   text::keepApart(session.disk, scene, scratch);

@@ -87,7 +87,8 @@ void finishDials(front::Session& session) {
   session.hourglass(false);
   const front::ResultOffer offer(session, scratch, opening.OpenedPath);
   front::CommonDialog& dialog = opening.CommonDialog2;
-  if (dialog.save(session.front, session.disk.currentFolder(), opening.OpenedPath)) {
+  if (dialog.save(session.front, session.disk.currentFolder(), opening.OpenedPath, {},
+                  {"Save the figure with its dials hidden and shown", front::kFigureFilter})) {
     session.disk.replace(scratch, dialog.fileName());
   }
   front::hideDialFrame(opening);

@@ -85,7 +85,8 @@ void offerResult(front::Session& session, const ScratchTurns& turns, const Remov
   const front::Answer answer =
       session.front.messageBox(question(opening, removed), "Success!", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  const auto target = figure::chooseSavePath(session, opening.OpenedPath);
+  const auto target =
+      figure::chooseSavePath(session, opening.OpenedPath, "Save the figure without the morphs");
   if (!target) return;
   if (!turns.hasResult()) return tellUnconventional(session);
   text::ignoringErrors([&] { session.disk.replace(turns.result(), *target); });

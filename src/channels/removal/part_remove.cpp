@@ -47,7 +47,8 @@ void offerResult(front::Session& session, const ScratchTurns& turns) {
   const front::Answer answer = session.front.messageBox(
       "You are about to remove one or more body parts.  Save changes?", "Alert!", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  const auto target = figure::chooseSavePath(session, opening.OpenedPath);
+  const auto target =
+      figure::chooseSavePath(session, opening.OpenedPath, "Save the figure without the body parts");
   if (!target) return;
   if (!turns.hasResult()) return tellUnconventional(session);
   session.disk.replace(turns.result(), *target);

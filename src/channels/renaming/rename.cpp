@@ -167,7 +167,8 @@ bool renameAndSave(front::Session& session) {
   const bool wanted = wantsToSave(session, *renamed);
   putAway(opening);
   if (!wanted) return true;
-  const auto target = figure::chooseSavePath(session, opening.LabelFileNameForEditor.caption());
+  const auto target = figure::chooseSavePath(session, opening.LabelFileNameForEditor.caption(),
+                                             "Save the figure with the new name");
   if (!target) return true;
   session.disk.replace(opening.inProgramFolder(kScratch), *target);
   showSaved(session, *target);
