@@ -138,7 +138,7 @@ void MainWindow::saveCopyOf(const std::string& path) {
     const std::string folder = session_.disk.currentFolder();
     const auto target = frontEnd_.fileDialog({.kind = front::FileDialog::Kind::save,
                                               .name = "SaveResult",
-                                              .title = "Save As",
+                                              .title = "Save a copy of the result",
                                               .folder = folder,
                                               .file = std::string{text::fileTitle(path)}});
     if (!target) return;
