@@ -2,6 +2,7 @@
 
 #include "erc/link_block.h"
 #include "figure/save_path.h"
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/line_copy.h"
 #include "text/rewrite_pass.h"

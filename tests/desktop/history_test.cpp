@@ -5,6 +5,7 @@
 #include "desktop/history/history_tools.h"
 #include "desktop/maker.h"
 #include "desktop/program.h"
+#include "front/finished_file.h"
 #include "support/temporary_folder.h"
 
 #include <QAction>
