@@ -1,6 +1,7 @@
 #include "dial_passes.h"
 
 #include "dials/rename_pass.h"
+#include "text/line_writer.h"
 
 namespace norvik::bench {
 
@@ -56,6 +57,29 @@ void transferJoints(Bench& bench) {
   }
   opening.PictureJoints.released.raise({});
   mustHold(bench.disk.exists("C:\\Norvik\\jointfile.txt"), "no joints");
+}
+
+/// Off and on again, so that the next run finds the same figure.
+void bendPart(Bench& bench) {
+  bench.opening.ListActors.add(kLateEntry);
+  bench.opening.ListActors.choose(0);
+  bench.opening.MenuBendOff.clicked.raise();
+  bench.opening.MenuBendOn.clicked.raise();
+}
+
+/// A part of a few vertices: what takes the time is the way to the morph.
+void extractMorph(Bench& bench) {
+  text::LineWriter obj(bench.disk, "C:\\part.obj");
+  for (int i = 0; i < 1000; ++i) obj.line("v 0.5 0.25 0.125");
+  obj.line("g lToe");
+  obj.line("f 1 2 1000");
+  obj.close();
+  bench.opening.LabelOBJFileName.setCaption("C:\\part.obj");
+  front::ListBox& list = bench.opening.ListChannels;
+  for (const char* item : {"Channels for  lToe:1", "", "\tlToeExtra300"}) list.add(item);
+  list.choose(2);
+  list.released.raise({.button = front::MouseButton::right});
+  mustHold(bench.disk.size("C:\\Norvik\\NewMor.obj") > 0, "nothing extracted");
 }
 
 void removeIkChains(Bench& bench) {

@@ -10,6 +10,8 @@ void listAndHideDials(Bench& bench);
 void changeTrackingSpeed(Bench& bench);
 void mirrorMorph(Bench& bench);
 void transferJoints(Bench& bench);
+void bendPart(Bench& bench);
+void extractMorph(Bench& bench);
 void removeIkChains(Bench& bench);
 void makeUnique(Bench& bench);
 /// To friendly names; the figure has numbers.

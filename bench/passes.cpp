@@ -398,6 +398,8 @@ const std::vector<Pass>& passes() {
       pass("ERC unique name", rewrite, plain, makeUnique),
       pass("tracking speed, reading twice", copy, plain, changeTrackingSpeed),
       pass("joints, extract and transfer", copy, plain, transferJoints),
+      pass("bend, off and on", copy, plain, bendPart),
+      pass("extract of a morph", read, plain, extractMorph),
       pass("IK chains", rewrite, plain, removeIkChains),
       pass("dials renamed", rewrite, plain, renameDials),
       pass("dials renamed, preview", read, plain, previewDials),

@@ -2,6 +2,7 @@
 
 #include "erc/link_block.h"
 #include "figure/save_path.h"
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/line_copy.h"
 #include "text/rewrite_pass.h"
@@ -61,8 +62,8 @@ void save(front::Session& session, const std::string& scratch, const std::string
   const front::Answer answer = session.front.messageBox(
       "Control Ratio changed to " + ratio + ".  Save changes?", "Note!", front::kYesNo);
   if (answer != front::Answer::yes) return;
-  if (figure::chooseSavePath(session, figure, "Save the figure with the new ratio") != figure)
-    return;
+  const auto chosen = figure::chooseSavePath(session, figure, "Save the figure with the new ratio");
+  if (chosen != figure) return;
   session.disk.replace(scratch, figure);
   session.front.tellOf({.path = figure});
 }

@@ -3,6 +3,7 @@
 #include "erc/link_block.h"
 #include "erc/link_place.h"
 #include "figure/save_path.h"
+#include "front/finished_file.h"
 #include "text/line_search.h"
 
 namespace norvik::erc {

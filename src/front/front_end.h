@@ -2,7 +2,6 @@
 // What the tools ask of whoever sits in front of them: a person at a window, or a script.
 
 #include "front/colours.h"
-#include "front/finished_file.h"
 #include "graphics/surface.h"
 #include "text/file_error.h"
 
@@ -22,6 +21,7 @@ namespace norvik::front {
 
 class Form;
 class PictureBox;
+struct FinishedFile;
 
 /// Message box styles: the buttons, to which an icon may be added.
 enum Style : int {

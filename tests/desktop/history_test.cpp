@@ -5,6 +5,7 @@
 #include "desktop/history/history_tools.h"
 #include "desktop/maker.h"
 #include "desktop/program.h"
+#include "front/finished_file.h"
 #include "support/temporary_folder.h"
 
 #include <QAction>
@@ -85,11 +86,12 @@ class YesAsker : public Asker {
     return (box.style & front::kButtonMask) == front::kYesNo ? front::Answer::yes
                                                              : front::Answer::ok;
   }
-  std::optional<QString> file(const File&) override { return std::nullopt; }
+  std::optional<QString> file(const File&) override { return chosen; }
   std::optional<front::Colour> colour(front::Colour) override { return std::nullopt; }
   bool printer(QPrinter&) override { return false; }
 
   QStringList asked;
+  std::optional<QString> chosen;  ///< in every file dialog
 };
 
 /// The program with a drive, a state folder and a home of its own.
@@ -127,6 +129,21 @@ TEST_F(HistoryProgramTest, TheStatusLinePutsBackWhatWasReplaced) {
   emit news().linkActivated(QStringLiteral("undo"));
   EXPECT_EQ(drive_.read("f.cr2"), "old\r\n");
   EXPECT_TRUE(asker_.asked.isEmpty());
+}
+
+TEST_F(HistoryProgramTest, TheStatusLineOffersACopyOfAResult) {
+  drive_.write("Norvik/mirmorph.cr2", "made\r\n");
+  program_->session().front.tellOf({.path = "C:\\Norvik\\mirmorph.cr2", .isScratch = true});
+  auto& result = *window().findChild<QLabel*>(QStringLiteral("Result"));
+  EXPECT_TRUE(result.text().startsWith(QStringLiteral("Made: \\mirmorph.cr2")));
+  EXPECT_TRUE(result.text().contains(QStringLiteral("Save as ...")));
+  EXPECT_EQ(result.toolTip(), QStringLiteral("C:\\Norvik\\mirmorph.cr2"));
+  asker_.chosen = QString::fromStdString(drive_.path("kept.cr2"));
+  emit result.linkActivated(QStringLiteral("0"));
+  EXPECT_EQ(drive_.read("kept.cr2"), "made\r\n");
+  EXPECT_EQ(drive_.read("Norvik/mirmorph.cr2"), "made\r\n");
+  EXPECT_TRUE(result.text().startsWith(QStringLiteral("Saved: kept.cr2")));
+  EXPECT_FALSE(result.text().contains(QStringLiteral("Save as ...")));
 }
 
 TEST_F(HistoryProgramTest, TheShortcutAsksAndNamesTheFile) {

@@ -14,6 +14,7 @@
 // DRIVE is the host folder of drive C, with the sample figures in it; FILE is a system path.
 
 #include "desktop/bind/drop_mark.h"
+#include "desktop/dial_pictures.h"
 #include "desktop/editor_pictures.h"
 #include "desktop/install_pictures.h"
 #include "desktop/link_pictures.h"
@@ -233,6 +234,7 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   hand.clickItem(u"ListAllTexMaps"_s, u"tilda"_s);
 
   takeChannelPictures(program, hand, camera);
+  desktop::takeDialPictures(hand, [&](const QString& name) { camera.take(name); });
 
   hand.willChoose(drive + kCharacters + u"tilda2.cr2"_s);
   hand.click(u"LabelOpenSource"_s);

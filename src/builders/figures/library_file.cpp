@@ -2,6 +2,7 @@
 
 #include "builders/figures/library_text.h"
 #include "figure/embedded_geometry.h"
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/field_search.h"
 #include "text/rewrite_pass.h"

@@ -1,5 +1,6 @@
 #include "builders/figures/master_cr2.h"
 
+#include "front/finished_file.h"
 #include "text/line_copy.h"
 #include "text/line_search.h"
 

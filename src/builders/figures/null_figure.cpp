@@ -1,5 +1,6 @@
 #include "builders/figures/null_figure.h"
 
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/line_copy.h"
 #include "text/rewrite_pass.h"

@@ -1,5 +1,6 @@
 #include "channels/dials/erc_unique.h"
 
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/rewrite_pass.h"
 

@@ -5,10 +5,10 @@
 
 namespace norvik::channels {
 
-/// Passes over `count` lines. Throws FileError inputPastEnd (62) where the file has fewer.
+/// Passes over `count` lines, or those that are left: the next read tells.
 void passLineCount(text::LineReader& in, double count);
 
-/// Copies `count` lines. Throws FileError inputPastEnd (62) where the file has fewer.
+/// Copies `count` lines, or those that are left: the next read tells.
 void copyLineCount(text::RewritePass& pass, double count);
 
 }  // namespace norvik::channels

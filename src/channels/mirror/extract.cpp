@@ -3,6 +3,7 @@
 #include "channels/mirror/blank_parts.h"
 #include "channels/mirror/part_vertices.h"
 #include "channels/mirror/plain_decimal.h"
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/field_search.h"
 #include "text/number_text.h"
@@ -91,7 +92,10 @@ void extractToObj(front::Session& session) {
   writeDeltas(session, morph, deltas);
   writeMorph(session, range, deltas);
   session.hourglass(false);
-  session.front.tellOf({.path = opening.inProgramFolder(kMorph), .isScratch = true});
+  session.front.tellOf({.path = opening.inProgramFolder(kMorph),
+                        .isScratch = true,
+                        .part = part,
+                        .geometry = opening.LabelOBJFileName.caption()});
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "channels/actor_block.h"
 #include "channels/channel_entry.h"
 #include "channels/mirror/mirrored_delta.h"
+#include "front/finished_file.h"
 #include "text/line_search.h"
 
 #include <vector>

@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace norvik::channels {
@@ -22,6 +23,13 @@ struct VertexRange {
 /// relative number counts back from the vertices read so far. Throws FileError inputPastEnd (62)
 /// when the OBJ has no such group.
 VertexRange verticesOfPart(const text::Disk& disk, const std::string& obj, const std::string& part);
+
+/// Two vertices by their numbers in the OBJ, the lower one first.
+using Edge = std::pair<std::int64_t, std::int64_t>;
+
+/// The sides of a part's faces, each once. Throws as verticesOfPart does.
+std::vector<Edge> edgesOfPart(const text::Disk& disk, const std::string& obj,
+                              const std::string& part);
 
 using Vertex = std::array<float, 3>;
 

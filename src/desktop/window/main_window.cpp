@@ -1,5 +1,6 @@
 #include "desktop/window/main_window.h"
 
+#include "channels/mirror/part_shape.h"
 #include "desktop/bind/drag.h"
 #include "desktop/bind/list_view.h"
 #include "desktop/motion.h"
@@ -11,11 +12,13 @@
 #include "desktop/window/place.h"
 #include "desktop/window/recent_menu.h"
 #include "desktop/window/rename_row.h"
+#include "desktop/window/shape_view.h"
 #include "desktop/window/splash_page.h"
 #include "desktop/window/tool_hints.h"
 #include "desktop/window/tool_strip.h"
 #include "desktop/window/view_menu.h"
 #include "desktop/words.h"
+#include "front/finished_file.h"
 #include "text/file_names.h"
 #include "text/save_copy.h"
 
@@ -141,6 +144,9 @@ void MainWindow::tellOf(const front::FinishedFile& file) {
     actions.push_back(
         {QStringLiteral("Save as ..."), [this, path = file.path] { saveCopyOf(path); }});
   }
+  if (!file.part.empty()) {
+    actions.push_back({QStringLiteral("Show"), [this, file] { showDisplaced(file); }});
+  }
   actions.push_back(
       {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
   const QString name = shown(text::fileTitle(file.path));
@@ -149,12 +155,23 @@ void MainWindow::tellOf(const front::FinishedFile& file) {
                  shown(file.path), std::move(actions));
 }
 
+void MainWindow::showDisplaced(const front::FinishedFile& file) {
+  maker_.dispatcher().run("ShowResult", [this, &file] {
+    auto shape = channels::shapeOfExtract(session_.disk, file.geometry, file.part, file.path);
+    const QString title =
+        shown(text::fileTitle(file.path)) + QStringLiteral(" over ") + shown(file.part);
+    // It deletes itself when it is closed.
+    auto view = std::make_unique<ShapeView>(std::move(shape), title, *this);
+    view.release()->show();
+  });
+}
+
 void MainWindow::saveCopyOf(const std::string& path) {
   maker_.dispatcher().run("SaveResult", [this, &path] {
     const std::string folder = session_.disk.currentFolder();
     const auto target = frontEnd_.fileDialog({.kind = front::FileDialog::Kind::save,
                                               .name = "SaveResult",
-                                              .title = "Save As",
+                                              .title = "Save a copy of the result",
                                               .folder = folder,
                                               .file = std::string{text::fileTitle(path)}});
     if (!target) return;

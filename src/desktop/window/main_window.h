@@ -59,6 +59,7 @@ class MainWindow : public QMainWindow {
   void tellOfUntakenPaths();
   void tellOf(const front::FinishedFile& file);
   void saveCopyOf(const std::string& path);
+  void showDisplaced(const front::FinishedFile& file);
   void scrollToTops();
 
   Maker& maker_;
