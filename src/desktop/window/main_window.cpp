@@ -16,6 +16,7 @@
 #include "desktop/window/tool_strip.h"
 #include "desktop/window/view_menu.h"
 #include "desktop/words.h"
+#include "text/columns.h"
 #include "text/file_names.h"
 #include "text/save_copy.h"
 
@@ -33,6 +34,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace norvik::desktop {
@@ -40,6 +43,14 @@ namespace norvik::desktop {
 namespace {
 
 constexpr int kTwipsPerPixel = 15;
+
+/// Whether the open makes something of a file.
+bool opensInPanes(std::string_view path) {
+  constexpr std::array<std::string_view, 8> kTypes{"cr2", "fc2", "pz2", "pz3",
+                                                   "hr2", "pp2", "obj", "mtl"};
+  const std::string type = text::lowered(text::extension(path));
+  return std::find(kTypes.begin(), kTypes.end(), type) != kTypes.end();
+}
 
 }  // namespace
 
@@ -57,6 +68,8 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   addToolBar(makeToolStrip(maker_, opening_, *this));
   status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
   frontEnd_.setResultListener([this](const front::FinishedFile& file) { tellOf(file); });
+  frontEnd_.setStatusListeners([this](std::string_view text) { status_->say(shown(text)); },
+                               [this](std::string_view text) { status_->note(shown(text)); });
   makeCentre();
   bindTheRest();
   listenToMenus();
@@ -66,6 +79,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
 
 MainWindow::~MainWindow() {
   frontEnd_.setResultListener({});
+  frontEnd_.setStatusListeners({}, {});
 }
 
 void MainWindow::makeMenus() {
@@ -125,8 +139,10 @@ void MainWindow::tellOf(const front::FinishedFile& file) {
     actions.push_back(
         {QStringLiteral("Save as ..."), [this, path = file.path] { saveCopyOf(path); }});
   }
-  actions.push_back(
-      {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
+  if (opensInPanes(file.path)) {
+    actions.push_back(
+        {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
+  }
   const QString name = shown(text::fileTitle(file.path));
   status_->offer(file.isScratch ? QStringLiteral("Made: \\%1").arg(name)
                                 : QStringLiteral("Saved: %1").arg(name),
