@@ -25,6 +25,7 @@ class FaultyHost::File final : public HostFile {
   int write(std::string_view bytes) override {
     const bool metBefore = host_.met_;
     int error = host_.count();
+    host_.changes_.push_back(host_.operations_);
     ++host_.writes_;
     if (host_.fault_ == Fault::fullDisk && host_.writes_ >= host_.at_) {
       host_.met_ = true;
@@ -47,7 +48,7 @@ class FaultyHost::File final : public HostFile {
     return host_.perform([&] { return real_->size(bytes); });
   }
   int sync() override {
-    return host_.perform([this] {
+    return host_.change([this] {
       host_.synced(id_);
       return 0;
     });
@@ -68,6 +69,12 @@ int FaultyHost::perform(Operation&& operation) {
   return error != 0 ? error : result;
 }
 
+template <typename Operation>
+int FaultyHost::change(Operation&& operation) {
+  changes_.push_back(operations_ + 1);
+  return perform(std::forward<Operation>(operation));
+}
+
 FaultyHost::~FaultyHost() {
   forgetFiles();
 }
@@ -79,6 +86,7 @@ void FaultyHost::setFault(Fault fault, std::uint64_t n, int error) {
   met_ = false;
   operations_ = 0;
   writes_ = 0;
+  changes_.clear();
   forgetFiles();
 }
 
@@ -149,6 +157,7 @@ bool FaultyHost::acrossFolders(const std::string& from, const std::string& to) c
 }
 
 int FaultyHost::open(const std::string& name, HostOpenMode mode, std::unique_ptr<HostFile>& file) {
+  if (mode != HostOpenMode::read) changes_.push_back(operations_ + 1);
   return perform([&] {
     struct stat before {};
     const bool existed = ::stat(name.c_str(), &before) == 0;
@@ -174,34 +183,34 @@ int FaultyHost::readLink(const std::string& name, std::string& target) {
   return perform([&] { return real_.readLink(name, target); });
 }
 int FaultyHost::renameOver(const std::string& from, const std::string& to) {
-  return perform([&] { return acrossFolders(from, to) ? EXDEV : real_.renameOver(from, to); });
+  return change([&] { return acrossFolders(from, to) ? EXDEV : real_.renameOver(from, to); });
 }
 int FaultyHost::renameNew(const std::string& from, const std::string& to) {
-  return perform([&] { return acrossFolders(from, to) ? EXDEV : real_.renameNew(from, to); });
+  return change([&] { return acrossFolders(from, to) ? EXDEV : real_.renameNew(from, to); });
 }
 int FaultyHost::remove(const std::string& name) {
-  return perform([&] { return real_.remove(name); });
+  return change([&] { return real_.remove(name); });
 }
 int FaultyHost::link(const std::string& file, const std::string& name) {
-  return perform([&] { return acrossFolders(file, name) ? EXDEV : real_.link(file, name); });
+  return change([&] { return acrossFolders(file, name) ? EXDEV : real_.link(file, name); });
 }
 int FaultyHost::clone(const std::string& file, const std::string& name) {
-  return perform([&] { return acrossFolders(file, name) ? EXDEV : real_.clone(file, name); });
+  return change([&] { return acrossFolders(file, name) ? EXDEV : real_.clone(file, name); });
 }
 int FaultyHost::removeFolder(const std::string& name) {
-  return perform([&] { return real_.removeFolder(name); });
+  return change([&] { return real_.removeFolder(name); });
 }
 int FaultyHost::makeFolder(const std::string& name) {
-  return perform([&] { return real_.makeFolder(name); });
+  return change([&] { return real_.makeFolder(name); });
 }
 int FaultyHost::setMode(const std::string& name, unsigned mode) {
-  return perform([&] { return real_.setMode(name, mode); });
+  return change([&] { return real_.setMode(name, mode); });
 }
 int FaultyHost::setOwner(const std::string& name, unsigned owner, unsigned group) {
-  return perform([&] { return real_.setOwner(name, owner, group); });
+  return change([&] { return real_.setOwner(name, owner, group); });
 }
 int FaultyHost::syncFolder(const std::string&) {
-  return perform([] { return 0; });
+  return change([] { return 0; });
 }
 
 }  // namespace norvik::tests

@@ -50,6 +50,9 @@ class FaultyHost final : public text::HostOps {
   /// Whether the operation that the fault is set for came.
   bool faultMet() const { return met_; }
   std::uint64_t operations() const { return operations_; }
+  /// Which of them since the fault was set were to change something: a file, a name, what is on the
+  /// medium.
+  const std::vector<std::uint64_t>& changes() const { return changes_; }
 
   /// From now on a rename from one folder to another fails as between two file systems, and so does
   /// a further name.
@@ -82,6 +85,8 @@ class FaultyHost final : public text::HostOps {
   int count();
   template <typename Operation>
   int perform(Operation&& operation);
+  template <typename Operation>
+  int change(Operation&& operation);
   void losePower();
   void watch(const std::string& name, const FileId& file, std::uint64_t length);
   void synced(const FileId& file);
@@ -97,6 +102,7 @@ class FaultyHost final : public text::HostOps {
   bool foldersSeparate_ = false;
   std::uint64_t operations_ = 0;
   std::uint64_t writes_ = 0;
+  std::vector<std::uint64_t> changes_;
   std::map<FileId, Unsynced> unsynced_;
 };
 

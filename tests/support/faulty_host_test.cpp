@@ -37,6 +37,19 @@ TEST_F(FaultyHostTest, FailsOneOperation) {
   EXPECT_EQ(host_.operations(), 3U);
 }
 
+TEST_F(FaultyHostTest, TellsWhichOperationsChangeSomething) {
+  host_.setFault(Fault::none, 0);
+  text::HostStatus status;
+  std::uint64_t size = 0;
+  const auto file = open("f", HostOpenMode::write);
+  EXPECT_EQ(file->write("1234"), 0);
+  EXPECT_EQ(file->size(size), 0);
+  EXPECT_EQ(file->sync(), 0);
+  EXPECT_EQ(host_.status(folder_.path("f"), status), 0);
+  EXPECT_EQ(host_.remove(folder_.path("f")), 0);
+  EXPECT_EQ(host_.changes(), (std::vector<std::uint64_t>{1, 2, 4, 6}));
+}
+
 TEST_F(FaultyHostTest, CarriesOutAnOperationUnheard) {
   host_.setFault(Fault::unheard, 2, EIO);
   const auto file = open("f", HostOpenMode::write);

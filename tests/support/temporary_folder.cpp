@@ -5,7 +5,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <sys/stat.h>
 #include <system_error>
@@ -42,7 +41,10 @@ void TemporaryFolder::write(std::string_view name, std::string_view bytes) const
 std::string TemporaryFolder::read(std::string_view name) const {
   std::ifstream in(path(name), std::ios::binary);
   if (!in) throw std::runtime_error("cannot read " + path(name));
-  return {std::istreambuf_iterator<char>(in), {}};
+  std::string bytes(fs::file_size(path(name)), '\0');
+  in.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (!in) throw std::runtime_error("cannot read " + path(name));
+  return bytes;
 }
 
 bool TemporaryFolder::exists(std::string_view name) const {

@@ -1,10 +1,6 @@
-// Alternate geometries and scene conversions during which the host fails.
+// Alternate geometries and scene conversions.
 
-#include "support/tool_faults.h"
-
-#include <gtest/gtest.h>
-
-#include <tuple>
+#include "faults/rows.h"
 
 namespace norvik::tests {
 
@@ -24,23 +20,21 @@ const std::string kActorTop =
     "\tparent BODY:1\r\n";
 const std::string kChannelsTop = "\tchannels\r\n\t\t{\r\n";
 
-/// So much that a file is written in several pieces.
-std::string manyDeltas() {
-  std::string deltas = "\t\ttargetGeom Smile\r\n\t\t\t{\r\n";
-  constexpr int kDeltas = 3500;
-  for (int i = 0; i < kDeltas; ++i) deltas += "\t\t\t\td " + std::to_string(i) + " 0.01 0.02 0\r\n";
-  return deltas + "\t\t\t}\r\n";
+std::string deltas() {
+  return "\t\ttargetGeom Smile\r\n\t\t\t{\r\n" + manyLines("\t\t\t\td") + "\t\t\t}\r\n";
 }
 
-const std::string kDeltas = manyDeltas();
 const std::string kTail =
     "\t\t}\r\n\t}\r\nfigure\r\n\t{\r\n\tmaterial skin\r\n\t\t{\r\n\t\tKdColor 1 1 1 1\r\n"
     "\t\tKaColor 0 0 0 1\r\n\t\tKsColor 0 0 0 1\r\n\t\ttextureMap NO_MAP\r\n\t\t}\r\n"
     "\tdisplayMode USEPARENT\r\n\t}\r\n}\r\n";
-const std::string kFigure = kHead + kActorTop + kChannelsTop + kDeltas + kTail;
+
+std::string figure() {
+  return kHead + kActorTop + kChannelsTop + deltas() + kTail;
+}
 
 std::string scene(const std::string& cameras) {
-  return kHead + kSettings + cameras + kActorTop + kChannelsTop + kDeltas + kTail;
+  return kHead + kSettings + cameras + kActorTop + kChannelsTop + deltas() + kTail;
 }
 
 std::string open(const std::string& file) {
@@ -58,20 +52,20 @@ ToolUnderFaults alternateGeometry() {
       "\t\t\t\tk  0  0\r\n\t\t\t\t}\r\n\t\t\tinterpStyleLocked 1\r\n\t\t\tstaticValue 0\r\n"
       "\t\t\t}\r\n";
   return {"AlternateGeometry",
-          {{"figures/fig.cr2", kFigure},
+          {{"figures/fig.cr2", figure()},
            {"Norvik/AltGeom.cr2", "an older figure\r\n"},
            {"Norvik/AltGeom.pp2", "an older prop\r\n"}},
           open("fig.cr2") + "click menuGeomSwitch\n",
           "choose C:\\Poser\\Runtime\\Geometries\\fist.obj\nitem ListAltGeomActors head:1\n",
           "Norvik/AltGeom.cr2",
-          kHead + kActorTop + geometry + kChannelsTop + kDeltas + dial + kTail,
+          kHead + kActorTop + geometry + kChannelsTop + deltas() + dial + kTail,
           {"Norvik/AltGeom.cr2", "Norvik/AltGeom.pp2"}};
 }
 
 ToolUnderFaults geometryOnResult() {
   ToolUnderFaults tool = alternateGeometry();
   tool.name = "AlternateGeometryOnItsResult";
-  tool.files = {{"Norvik/AltGeom.cr2", kFigure}, {"Norvik/AltGeom.pp2", "an older prop\r\n"}};
+  tool.files = {{"Norvik/AltGeom.cr2", figure()}, {"Norvik/AltGeom.pp2", "an older prop\r\n"}};
   tool.opening = "choose C:\\Norvik\\AltGeom.cr2\nclick MenuFileOpen\nclick menuGeomSwitch\n";
   tool.deleted = {"Norvik/AltGeom.pp2"};
   return tool;
@@ -83,7 +77,7 @@ ToolUnderFaults sceneToFigure() {
           open("a.pz3"),
           "choose C:\\figures\\b.cr2\nclick MenuPZ3Cr2Conv\n",
           "figures/b.cr2",
-          kFigure,
+          figure(),
           {}};
 }
 
@@ -130,27 +124,14 @@ ToolUnderFaults materialLibrary() {
           {}};
 }
 
-using Case = std::tuple<ToolUnderFaults, HostFault>;
-
-class SceneFaultsTest : public testing::TestWithParam<Case> {};
-
-TEST_P(SceneFaultsTest, TargetIsOldOrNew) {
-  const auto& [tool, fault] = GetParam();
-  expectOldOrNew(tool, fault);
-}
-
-std::string caseName(const testing::TestParamInfo<Case>& info) {
-  return std::get<0>(info.param).name + std::get<1>(info.param).name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Tools, SceneFaultsTest,
-                         testing::Combine(testing::Values(alternateGeometry(), geometryOnResult(),
-                                                          sceneToFigure(), restoredCameras(),
-                                                          savedCameras(), filmBackground(),
-                                                          materialLibrary()),
-                                          testing::ValuesIn(allHostFaults())),
-                         caseName);
-
 }  // namespace
+
+FaultRows sceneRows() {
+  return {
+      {"AlternateGeometry", alternateGeometry}, {"AlternateGeometryOnItsResult", geometryOnResult},
+      {"SceneToFigure", sceneToFigure},         {"RestoredCameras", restoredCameras},
+      {"SavedCameras", savedCameras},           {"FilmBackground", filmBackground},
+      {"MaterialLibrary", materialLibrary}};
+}
 
 }  // namespace norvik::tests

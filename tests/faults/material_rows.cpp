@@ -1,10 +1,6 @@
-// Changes of colours and the coordination of materials during which the host fails.
+// Changes of colours and the coordination of materials.
 
-#include "support/tool_faults.h"
-
-#include <gtest/gtest.h>
-
-#include <tuple>
+#include "faults/rows.h"
 
 namespace norvik::tests {
 
@@ -20,25 +16,23 @@ std::string figure(const std::string& materials) {
   const std::string reference = "figureResFile :Runtime:Geometries:doll:doll.obj\r\n";
   std::string text = "{\r\n" + reference +
                      "actor BODY:1\r\n\t{\r\n\tstorageOffset 0 0 0\r\n\t}\r\n" + reference +
-                     "actor BODY:1\r\n\t{\r\n\tname Body\r\n\t}\r\nactor head:1\r\n\t{\r\n";
-  constexpr int kDeltas = 3500;
-  for (int i = 0; i < kDeltas; ++i) text += "\t\t\t\td " + std::to_string(i) + " 0.01 0.02 0\r\n";
+                     "actor BODY:1\r\n\t{\r\n\tname Body\r\n\t}\r\nactor head:1\r\n\t{\r\n" +
+                     manyLines("\t\t\t\td");
   return text + "\t}\r\nfigure\r\n\t{\r\n\tweld head:1\r\n\t\tBODY:1\r\n" + materials +
          "\tdisplayMode USEPARENT\r\n\t}\r\n}\r\n";
 }
 
 const std::string kOpen = "choose C:\\figures\\a.cr2\nclick MenuFileOpen\n";
 
-ToolUnderFaults newColour(const std::string& name, const std::string& target) {
-  ToolUnderFaults tool{
-      name,
+ToolUnderFaults newColour(const std::string& target) {
+  return {
+      "Colour",
       {{"figures/a.cr2", figure(material("skin"))}, {"Norvik/color.txt", "an older result\r\n"}},
       kOpen + "item ListMaterials skin\n",
       "colour 128 0 0\nchoose C:\\figures\\" + target + "\nclick PictureMatColor\n",
       "figures/" + target,
       figure(material("skin", " .5  0  0 1")),
       {}};
-  return tool;
 }
 
 ToolUnderFaults coordination() {
@@ -52,26 +46,12 @@ ToolUnderFaults coordination() {
           {}};
 }
 
-using Case = std::tuple<ToolUnderFaults, HostFault>;
-
-class MaterialFaultsTest : public testing::TestWithParam<Case> {};
-
-TEST_P(MaterialFaultsTest, TargetIsOldOrNew) {
-  const auto& [tool, fault] = GetParam();
-  expectOldOrNew(tool, fault);
-}
-
-std::string caseName(const testing::TestParamInfo<Case>& info) {
-  return std::get<0>(info.param).name + std::get<1>(info.param).name;
-}
-
-INSTANTIATE_TEST_SUITE_P(Tools, MaterialFaultsTest,
-                         testing::Combine(testing::Values(newColour("ColourInPlace", "a.cr2"),
-                                                          newColour("ColourOfACopy", "b.cr2"),
-                                                          coordination()),
-                                          testing::ValuesIn(allHostFaults())),
-                         caseName);
-
 }  // namespace
+
+FaultRows materialRows() {
+  return {{"ColourInPlace", [] { return newColour("a.cr2"); }},
+          {"ColourOfACopy", [] { return newColour("b.cr2"); }},
+          {"Coordination", coordination}};
+}
 
 }  // namespace norvik::tests

@@ -1,0 +1,25 @@
+#pragma once
+// The tools that replace, make or delete files of the operator's: the rows of one table.
+
+#include "support/tool_faults.h"
+
+#include <string>
+#include <vector>
+
+namespace norvik::tests {
+
+using FaultRows = std::vector<FaultRow>;
+
+FaultRows copyRows();
+FaultRows surgeryRows();
+FaultRows dialRows();
+FaultRows linkRows();
+FaultRows phiRows();
+FaultRows sceneRows();
+FaultRows materialRows();
+FaultRows poseRows();
+
+/// So many lines that a file of them is written in several pieces.
+std::string manyLines(const std::string& line);
+
+}  // namespace norvik::tests
