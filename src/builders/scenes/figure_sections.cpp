@@ -2,7 +2,7 @@
 
 #include "text/columns.h"
 #include "text/line_filter.h"
-#include "text/line_scan.h"
+#include "text/line_starts.h"
 
 #include <vector>
 
@@ -49,8 +49,7 @@ void FigureSections::add(std::string_view lines) {
     const std::size_t end = text::findLineEnd(lines, margin);
     enterLine(lines.substr(margin, end - margin));
     // Of a CR LF the LF is left: an empty line that must not be written.
-    at = end;
-    if (at < lines.size()) at += text::holds(lines.substr(at, 2), "\r\n") ? 2 : 1;
+    at = text::behindLineEnd(lines, end);
   }
 }
 
