@@ -62,6 +62,7 @@ bool makeChange(front::Session& session, const Change& change, std::uint64_t pos
     }
   }
   session.disk.replace(scratch, opening.CommonDialog3.fileName());
+  session.front.tellOf({.path = opening.CommonDialog3.fileName()});
   change.swatch.setBack(change.colour);
   listAgain(session);
   session.hourglass(false);

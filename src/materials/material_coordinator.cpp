@@ -80,6 +80,7 @@ void saveResult(front::Session& session) {
     figure::saveFileAs(session);
   }
   if (opening.PendingTempSave) return;
+  session.front.tellOf({.path = opening.DestPath});
   // The source pane's labels stay, so that later tools take the old file for an open source.
   opening.LabelFileName.setCaption(figure::shortenedPath(opening.DestPath));
   opening.LabelFileNameForEditor.setCaption(opening.DestPath);

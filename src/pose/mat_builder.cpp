@@ -118,7 +118,9 @@ void save(front::Session& session, const std::string& scratch) {
   if (!dialog.save(session.front, text::withoutLast(poser, 1), proposed, {},
                    {"Save the MAT pose as", front::kPoseFilter}))
     return;
-  text::ignoringErrors([&] { session.disk.replace(scratch, dialog.fileName()); });
+  if (text::ignoringErrors([&] { session.disk.replace(scratch, dialog.fileName()); })) {
+    session.front.tellOf({.path = dialog.fileName()});
+  }
 }
 
 }  // namespace

@@ -59,7 +59,9 @@ void finish(front::Session& session, FormMOR& form) {
   const std::string proposed = dialog.fileName();
   if (dialog.save(session.front, session.disk.currentFolder(), proposed, {},
                   {"Save the MOR pose as", front::kPoseFilter})) {
-    text::ignoringErrors([&] { session.disk.replace(result, dialog.fileName()); });
+    const bool saved =
+        text::ignoringErrors([&] { session.disk.replace(result, dialog.fileName()); });
+    if (saved) session.front.tellOf({.path = dialog.fileName()});
   }
   session.unload(form);
 }

@@ -124,6 +124,7 @@ void buildPose(front::Session& session, FormPZ2& form) {
   session.hourglass(false);
   form.ListActorsPZ2.clear();
   form.path.clear();
+  session.front.tellOf({.path = target});
   session.front.messageBox("New pose saved as " + target, "Note!", front::kOk);
   session.unload(form);
 }

@@ -65,6 +65,7 @@ void weld(front::Session& session, FormPZ2Combine& form) {
                    {"Save the welded pose as", front::kPoseFilter}))
     return;
   session.disk.replace(result, dialog.fileName());
+  session.front.tellOf({.path = dialog.fileName()});
   session.unload(form);
 }
 

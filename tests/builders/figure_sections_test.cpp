@@ -23,6 +23,14 @@ std::string figureOf(const std::vector<std::string>& pieces) {
   return drive.folder.read("out.cr2");
 }
 
+std::string noteOn(const std::string& scene) {
+  Drive drive;
+  text::LineWriter out(drive.disk, "C:\\out.cr2");
+  builders::FigureSections figure(out);
+  figure.add(scene);
+  return figure.note();
+}
+
 }  // namespace
 
 TEST(FigureSections, BlanksTabsAndBracesBeginNoSection) {
@@ -38,6 +46,18 @@ TEST(FigureSections, ASectionGoesOnInTheNextPiece) {
 
 TEST(FigureSections, LineEndsOfAnyKindBecomeCrLf) {
   EXPECT_EQ(figureOf({"a\rb\n\rprop GROUND\r\rc\r\n", "d"}), "a\r\nb\r\n\r\nc\r\nd\r\n");
+}
+
+TEST(FigureSections, TellsWhatStaysOut) {
+  EXPECT_EQ(noteOn("{\nactor hip:1\nfigure\n}\n"), "");
+  EXPECT_EQ(noteOn("light LIGHT1\ncamera A_CAMERA\ncamera B_CAMERA\nprop GROUND\nfigure\n"),
+            "Left out: 1 light, 2 cameras, the ground");
+  EXPECT_EQ(noteOn("figure\n\tsetGeom\nprop hat\ndoc\n"),
+            "Left out: the scene's settings, 1 other section");
+}
+
+TEST(FigureSections, TellsOfSeveralFigures) {
+  EXPECT_EQ(noteOn("figure\nfigure\n"), "The scene has 2 figures: look the result through");
 }
 
 }  // namespace norvik::tests

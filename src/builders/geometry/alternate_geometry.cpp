@@ -197,6 +197,7 @@ void addGeometry(front::Session& session) {
   if (!writeResult(session, figure::actorName(entry), scratch.path())) return;
   session.disk.replace(scratch.path(), result);
   session.hourglass(false);
+  session.front.tellOf({.path = result, .isScratch = true});
   session.front.messageBox((prop ? "New prop saved as " : "New CR2 saved as ") + result +
                                ", move or rename before doing another.",
                            "Note!", front::kOk);

@@ -62,6 +62,7 @@ void createPhi(front::Session& session, FormPhi& form) {
       return;
     }
     session.hourglass(false);
+    session.front.tellOf({.path = target});
     session.front.messageBox("Phi file saved as " + target, "Phi File Creator", front::kOk);
     showPhi(session, form, target);
   } catch (const text::FileError&) {

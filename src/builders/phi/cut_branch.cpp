@@ -2,6 +2,7 @@
 
 #include "builders/phi/phi_lister.h"
 #include "text/columns.h"
+#include "text/line_starts.h"
 #include "text/rewrite_pass.h"
 
 #include <algorithm>
@@ -12,27 +13,38 @@ namespace {
 
 constexpr std::string_view kScratch = "\\Lop.txt";
 
-/// Writes the mesh less the groups. Every line loses one leading blank.
-void writeOthers(text::RewritePass& pass, const std::vector<std::string>& names) {
-  static const text::LineFilter looked{text::atStart(" "), text::atStart("g")};
-  bool removing = false;
-  for (;;) {
-    if (removing) {
-      pass.in().passLines(looked);
-    } else {
-      pass.copyLines(looked);
+/// Takes a mesh in whole lines and writes it less the groups. Every line loses one leading blank.
+class BranchCut {
+ public:
+  BranchCut(text::LineWriter& out, const std::vector<std::string>& names)
+      : out_(out), names_(names) {}
+
+  void add(std::string_view lines) {
+    for (std::size_t at = 0; at < lines.size();) {
+      const std::size_t next = text::findLineStart(lines, at, ' ', 'g');
+      if (!removing_ && next > at) out_.lines(lines.substr(at, next - at));
+      if (next == lines.size()) return;
+      const std::size_t end = text::findLineEnd(lines, next);
+      takeLine(lines.substr(next, end - next));
+      at = text::behindLineEnd(lines, end);
     }
-    if (pass.in().atEnd()) return;
-    std::string_view line = pass.in().line();
+  }
+
+ private:
+  void takeLine(std::string_view line) {
     if (line.starts_with(' ')) line.remove_prefix(1);
     if (line.starts_with('g')) {
       // The whole rest of the line: one with several groups is never taken out.
       const std::string_view group = text::from(line, 3);
-      removing = std::find(names.begin(), names.end(), group) != names.end();
+      removing_ = std::find(names_.begin(), names_.end(), group) != names_.end();
     }
-    if (!removing) pass.out().line(line);
+    if (!removing_) out_.line(line);
   }
-}
+
+  text::LineWriter& out_;
+  const std::vector<std::string>& names_;
+  bool removing_ = false;
+};
 
 void store(front::Session& session, const std::string& scratch, const std::string& target) {
   const std::string onDisk = session.disk.nameOnDisk(target);
@@ -50,7 +62,8 @@ void cutBranch(front::Session& session, FormTree& form) {
   const std::string scratch = opening.inProgramFolder(kScratch);
   session.hourglass(true);
   text::RewritePass pass(session.disk, mesh, scratch);
-  writeOthers(pass, names);
+  BranchCut cut(pass.out(), names);
+  pass.in().handOnLines({}, [&cut](std::string_view lines) { cut.add(lines); });
   pass.finish();
   session.hourglass(false);
 

@@ -58,6 +58,7 @@ void PZ3AVI(front::Session& session) {
   const bool done = renamed(session.disk, scratch, name);
   session.hourglass(false);
   if (done) {
+    session.front.tellOf({.path = name});
     session.front.messageBox("AVI background file created as " + name, "Success!", front::kOk);
   } else {
     session.front.messageBox("You already have a file by this name, delete or move it first.",

@@ -29,6 +29,7 @@ void saveCameras(front::Session& session, const std::string& cameras) {
   // A camera file that could not be seen is not to be lost.
   session.disk.rename(scratch, cameras);
   session.hourglass(false);
+  session.front.tellOf({.path = cameras});
   session.front.messageBox("Camera info for " + scene + " saved as " + cameras, "Note!",
                            front::kOk);
 }
@@ -46,6 +47,7 @@ void restoreCameras(front::Session& session, const std::string& cameras) {
   pass.finish();
   session.disk.replace(scratch, scene);
   session.hourglass(false);
+  session.front.tellOf({.path = scene});
   session.front.messageBox("Camera info for " + scene + " restored.", "Note!", front::kOk);
 }
 

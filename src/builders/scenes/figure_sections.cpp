@@ -2,7 +2,9 @@
 
 #include "text/columns.h"
 #include "text/line_filter.h"
-#include "text/line_scan.h"
+#include "text/line_starts.h"
+
+#include <vector>
 
 namespace norvik::builders {
 
@@ -47,13 +49,15 @@ void FigureSections::add(std::string_view lines) {
     const std::size_t end = text::findLineEnd(lines, margin);
     enterLine(lines.substr(margin, end - margin));
     // Of a CR LF the LF is left: an empty line that must not be written.
-    at = end;
-    if (at < lines.size()) at += text::holds(lines.substr(at, 2), "\r\n") ? 2 : 1;
+    at = text::behindLineEnd(lines, end);
   }
 }
 
 void FigureSections::enterLine(std::string_view line) {
-  if (!isBrace(line.front())) kept_ = enterSection(line);
+  if (!isBrace(line.front())) {
+    kept_ = enterSection(line);
+    count(line);
+  }
   if (kept_ || line.front() == '}') out_.line(line);
   if (kept_ && inSection_ && text::holds(line, "setGeom")) endsFigure_ = true;
 }
@@ -70,6 +74,42 @@ bool FigureSections::enterSection(std::string_view line) {
   if (text::begins(line, "figureResFile")) return true;
   return !text::begins(line, "prop GROUND") && !text::holds(line, "LIGHT") &&
          !text::holds(line, "CAMERA");
+}
+
+void FigureSections::count(std::string_view line) {
+  if (line == "figure") ++counts_.figures;
+  if (kept_) return;
+  if (text::holds(line, "LIGHT")) {
+    ++counts_.lights;
+  } else if (text::holds(line, "CAMERA")) {
+    ++counts_.cameras;
+  } else if (text::begins(line, "prop GROUND")) {
+    ++counts_.grounds;
+  } else if (text::begins(line, "doc") || line == "actor UNIVERSE") {
+    ++counts_.settings;
+  } else {
+    ++counts_.others;
+  }
+}
+
+std::string FigureSections::note() const {
+  std::vector<std::string> parts;
+  const auto add = [&parts](int number, std::string_view one, std::string_view more) {
+    if (number == 1) parts.emplace_back(one);
+    if (number > 1) parts.push_back(std::to_string(number) + " " + std::string{more});
+  };
+  add(counts_.lights, "1 light", "lights");
+  add(counts_.cameras, "1 camera", "cameras");
+  if (counts_.grounds > 0) parts.emplace_back("the ground");
+  if (counts_.settings > 0) parts.emplace_back("the scene's settings");
+  add(counts_.others, "1 other section", "other sections");
+  std::string note;
+  for (const std::string& part : parts) note += (note.empty() ? "Left out: " : ", ") + part;
+  if (counts_.figures > 1) {
+    note += (note.empty() ? "" : ". ") + std::string{"The scene has "} +
+            std::to_string(counts_.figures) + " figures: look the result through";
+  }
+  return note;
 }
 
 void FigureSections::addText(std::string_view lines) {

@@ -3,6 +3,7 @@
 
 #include "text/line_writer.h"
 
+#include <string>
 #include <string_view>
 
 namespace norvik::builders {
@@ -22,17 +23,33 @@ class FigureSections {
   /// Takes whole lines with their endings, in the order of the file.
   void add(std::string_view lines);
 
+  /// What stays out and what there is more of than one figure needs, in a few words; empty for
+  /// nothing. Good once the whole scene was taken.
+  std::string note() const;
+
  private:
+  /// How many sections of a kind the scene has.
+  struct Counts {
+    int lights = 0;
+    int cameras = 0;
+    int grounds = 0;
+    int settings = 0;
+    int others = 0;   ///< that go all the same
+    int figures = 0;  ///< stay, as many as there are
+  };
+
   enum class Range { figure, behindFigure, settings };
 
   void enterLine(std::string_view line);
   bool enterSection(std::string_view line);
+  void count(std::string_view line);
   void addText(std::string_view lines);
 
   text::LineWriter& out_;
   Range range_ = Range::figure;
-  bool inSection_ = false;   ///< the first section has begun
-  bool kept_ = true;         ///< the present section stays
+  bool inSection_ = false;  ///< the first section has begun
+  bool kept_ = true;        ///< the present section stays
+  Counts counts_;
   bool endsFigure_ = false;  ///< it holds the line behind which the figure ends
 };
 

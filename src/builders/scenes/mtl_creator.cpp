@@ -62,6 +62,7 @@ void makeLibrary(front::Session& session) {
   const std::string library = text::throughFirstDot(scene, "mtl");
   session.disk.replace(scratch, library);
   session.hourglass(false);
+  session.front.tellOf({.path = library});
   session.front.messageBox("New MTL file saved as " + library, "Note!", front::kOk);
 }
 

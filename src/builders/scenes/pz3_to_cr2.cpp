@@ -1,6 +1,7 @@
 #include "builders/scenes/pz3_to_cr2.h"
 
 #include "builders/scenes/figure_sections.h"
+#include "front/status_text.h"
 #include "text/first_dot.h"
 #include "text/line_search.h"
 
@@ -27,11 +28,13 @@ bool holdsRefusedFigure(text::LineReader in) {
   }
 }
 
-void writeFigure(front::Session& session, const std::string& scratch) {
+/// Returns what the operator should know of the result.
+std::string writeFigure(front::Session& session, const std::string& scratch) {
   text::RewritePass pass(session.disk, session.opening.OpenedPath, scratch);
   FigureSections figure(pass.out());
   pass.in().handOnLines({}, [&figure](std::string_view lines) { figure.add(lines); });
   pass.finish();
+  return figure.note();
 }
 
 void convert(front::Session& session) {
@@ -49,9 +52,11 @@ void convert(front::Session& session) {
     return;
   }
   const std::string scratch = opening.inProgramFolder(kScratch);
-  writeFigure(session, scratch);
+  const std::string note = writeFigure(session, scratch);
   session.disk.replace(scratch, dialog.fileName());
   session.hourglass(false);
+  session.front.tellOf({.path = dialog.fileName()});
+  front::showNote(session.front, note);
 }
 
 }  // namespace

@@ -187,6 +187,7 @@ void Graft::finish() {
   session_.disk.rename(kResult, result);
   session_.hourglass(false);
   opening_.FileLabel.setCaption({});
+  session_.front.tellOf({.path = result});
   session_.front.messageBox("New CR2 saved as " + result + ".", "Finished!", front::kOk);
 }
 

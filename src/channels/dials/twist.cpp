@@ -1,5 +1,6 @@
 #include "channels/dials/twist.h"
 
+#include "front/status_text.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
 #include "text/patched_file.h"
@@ -29,6 +30,14 @@ constexpr std::string_view kHipOfRemoval = "Hip (alternate Thigh name)";
 constexpr char kMark = '*';
 constexpr char kUnmarked = '\t';
 
+/// The status text by the bytes that were read: it goes at 500, comes at 1000, and so on.
+std::string_view workingText(std::uint64_t bytes) {
+  constexpr std::uint64_t kGoes = 500;
+  constexpr std::uint64_t kComes = 1000;
+  const bool shows = bytes >= kComes && bytes % kComes < kGoes;
+  return shows ? "Working...." : "";
+}
+
 const Channels& channelsOf(std::string_view part) {
   return part == "Shoulder" ? kShoulder : kThigh;
 }
@@ -51,6 +60,7 @@ std::vector<std::uint64_t> findLines(front::Session& session, const Channels& ch
   text::LineReader in(session.disk, session.opening.OpenedPath);
   for (in.passLines(stops); !in.atEnd() && places.size() < most; in.passLines(stops)) {
     const std::uint64_t place = in.position();
+    front::showPassText(session.front, workingText(place));
     const auto line = in.line();
     const bool ofPart = std::any_of(channels.begin(), channels.end(),
                                     [line](auto channel) { return text::holds(line, channel); });
@@ -82,6 +92,7 @@ std::optional<std::size_t> turnLines(front::Session& session, const std::string&
     text::PatchedFile file(session.disk, session.opening.OpenedPath);
     for (const std::uint64_t place : places) file.put(place, to);
   });
+  front::showPassText(session.front, {});
   session.hourglass(false);
   if (whole) return count;
   session.front.messageBox("Oddball file!  Can't process!", "Error!", front::kOk);

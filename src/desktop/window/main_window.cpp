@@ -19,6 +19,7 @@
 #include "desktop/window/view_menu.h"
 #include "desktop/words.h"
 #include "front/finished_file.h"
+#include "text/columns.h"
 #include "text/file_names.h"
 #include "text/save_copy.h"
 
@@ -37,6 +38,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace norvik::desktop {
@@ -60,6 +62,14 @@ void showPanes(Maker& maker, front::Opening& opening, QWidget& panes) {
   maker.watch({&opening.ListboxListCR2Files}, show);
 }
 
+/// Whether the open makes something of a file.
+bool opensInPanes(std::string_view path) {
+  constexpr std::array<std::string_view, 8> kTypes{"cr2", "fc2", "pz2", "pz3",
+                                                   "hr2", "pp2", "obj", "mtl"};
+  const std::string type = text::lowered(text::extension(path));
+  return std::find(kTypes.begin(), kTypes.end(), type) != kTypes.end();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& frontEnd,
@@ -76,6 +86,8 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   addToolBar(makeToolStrip(maker_, opening_, *this));
   status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
   frontEnd_.setResultListener([this](const front::FinishedFile& file) { tellOf(file); });
+  frontEnd_.setStatusListeners([this](std::string_view text) { status_->say(shown(text)); },
+                               [this](std::string_view text) { status_->note(shown(text)); });
   makeCentre();
   bindTheRest();
   listenToMenus();
@@ -85,6 +97,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
 
 MainWindow::~MainWindow() {
   frontEnd_.setResultListener({});
+  frontEnd_.setStatusListeners({}, {});
 }
 
 void MainWindow::makeMenus() {
@@ -147,8 +160,10 @@ void MainWindow::tellOf(const front::FinishedFile& file) {
   if (!file.part.empty()) {
     actions.push_back({QStringLiteral("Show"), [this, file] { showDisplaced(file); }});
   }
-  actions.push_back(
-      {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
+  if (opensInPanes(file.path)) {
+    actions.push_back(
+        {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
+  }
   const QString name = shown(text::fileTitle(file.path));
   status_->offer(file.isScratch ? QStringLiteral("Made: \\%1").arg(name)
                                 : QStringLiteral("Saved: %1").arg(name),

@@ -20,6 +20,8 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
   result_->setAccessibleName(QStringLiteral("What the last tool has left"));
   result_->setTextFormat(Qt::RichText);
   result_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  // A long line is cut short, and its tip tells all of it: the window stays as narrow as it may be.
+  result_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   bar.addWidget(result_, 1);
   QObject::connect(result_, &QLabel::linkActivated, result_, [this](const QString& link) {
     const auto index = static_cast<std::size_t>(link.toUInt());
@@ -74,6 +76,12 @@ void StatusLine::withdraw() {
   actions_.clear();
   result_->clear();
   result_->setToolTip(QString());
+}
+
+void StatusLine::note(const QString& text) {
+  if (result_->text().isEmpty()) return;
+  result_->setText(result_->text() + QStringLiteral(" &nbsp;") + text.toHtmlEscaped());
+  result_->setToolTip(result_->toolTip() + QLatin1Char('\n') + text);
 }
 
 void StatusLine::rest() {
