@@ -95,7 +95,7 @@ class Run {
         change(at, pieces_[1].size() + 1, {});
         break;
       case 'x':
-        change(at, 0, plain_);
+        change(at, 0, std::string{plain_});
         break;
       case 'r': {
         const TextSearch search(pieces_[1], {false, true});
@@ -119,7 +119,7 @@ class Run {
 
   void change(std::size_t at, std::size_t length, const std::string& bytes) {
     plain_.replace(at, std::min(length, plain_.size() - at), bytes);
-    edits_.replace(at, length, std::string{bytes}, length == 0 && bytes.size() == 1);
+    edits_.replace(at, length, bytes, length == 0 && bytes.size() == 1);
   }
 
   std::vector<std::string> pieces_;
