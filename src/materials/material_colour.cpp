@@ -1,6 +1,7 @@
 #include "materials/material_colour.h"
 
 #include "figure/material_lister.h"
+#include "front/finished_file.h"
 #include "materials/colour_pass.h"
 #include "text/columns.h"
 #include "text/rewrite_pass.h"

@@ -3,6 +3,7 @@
 #include "figure/caption.h"
 #include "figure/check_sgi.h"
 #include "figure/save.h"
+#include "front/finished_file.h"
 #include "materials/coordinated_lists.h"
 #include "materials/coordinator_passes.h"
 #include "text/columns.h"

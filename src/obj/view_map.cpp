@@ -1,7 +1,6 @@
 #include "obj/view_map.h"
 
-#include "graphics/bmp_reader.h"
-#include "text/byte_reader.h"
+#include "front/load_picture.h"
 #include "text/columns.h"
 
 #include <algorithm>
@@ -10,20 +9,6 @@
 namespace norvik::obj {
 
 namespace {
-
-/// The picture in a file; none if it cannot be read or holds no picture.
-std::optional<graphics::Surface> loadMap(const text::Disk& disk, std::string_view path) {
-  constexpr std::uint64_t kMostBytes = std::uint64_t{1} << 30U;
-  std::string bytes;
-  text::ignoringErrors([&] {
-    if (disk.size(path) > kMostBytes) return;
-    text::ByteReader file(disk, path);
-    for (auto block = file.readBlocks(1); !block.empty(); block = file.readBlocks(1)) {
-      bytes += block;
-    }
-  });
-  return graphics::bmpSurface(bytes);
-}
 
 /// The map as large as it is, or so small that it fits.
 void drawMap(front::PictureBox& picture, const graphics::Surface& map) {
@@ -67,7 +52,7 @@ void showMap(Workshop& workshop) {
   if (form.PictureZoom.visible()) return workshop.showAlone(form.PictureObjViewer2);
   const auto path = findMap(workshop.session);
   if (!path) return;
-  const auto map = loadMap(workshop.session.disk, *path);
+  const auto map = front::loadPicture(workshop.session, *path);
   if (!map || map->pixels().empty()) {
     workshop.session.front.messageBox("Bad file or wrong one!", "Error!", front::kOk);
     return;

@@ -1,6 +1,7 @@
 #include "pose/mat_builder.h"
 
 #include "figure/material_block.h"
+#include "front/finished_file.h"
 #include "pose/pose_builder.h"
 #include "text/columns.h"
 #include "text/line_reader.h"

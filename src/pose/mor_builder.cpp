@@ -1,5 +1,6 @@
 #include "pose/mor_builder.h"
 
+#include "front/finished_file.h"
 #include "pose/channel_lines.h"
 #include "pose/mor_skeleton.h"
 #include "text/columns.h"

@@ -1,5 +1,6 @@
 #include "pose/pose_builder.h"
 
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
 #include "text/line_writer.h"

@@ -1,5 +1,6 @@
 #include "pose/weld.h"
 
+#include "front/finished_file.h"
 #include "pose/weld_lists.h"
 #include "pose/weld_merge.h"
 #include "pose/weld_missing.h"

@@ -3,6 +3,7 @@
 #include "builders/geometry/geometry_blocks.h"
 #include "channels/actor_block.h"
 #include "figure/actor_entry.h"
+#include "front/finished_file.h"
 #include "text/file_names.h"
 #include "text/line_search.h"
 #include "text/number_text.h"

@@ -3,6 +3,7 @@
 #include "builders/phi/phi_writer.h"
 #include "builders/phi/view_phi.h"
 #include "figure/check_sgi.h"
+#include "front/finished_file.h"
 #include "front/repeated_question.h"
 #include "text/columns.h"
 #include "text/first_dot.h"

@@ -1,5 +1,6 @@
 #include "builders/scenes/avi_background.h"
 
+#include "front/finished_file.h"
 #include "text/first_dot.h"
 #include "text/line_search.h"
 

@@ -1,6 +1,7 @@
 #include "builders/scenes/mtl_creator.h"
 
 #include "figure/material_block.h"
+#include "front/finished_file.h"
 #include "text/first_dot.h"
 #include "text/rewrite_pass.h"
 

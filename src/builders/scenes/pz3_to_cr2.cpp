@@ -1,6 +1,7 @@
 #include "builders/scenes/pz3_to_cr2.h"
 
 #include "builders/scenes/figure_sections.h"
+#include "front/finished_file.h"
 #include "front/status_text.h"
 #include "text/first_dot.h"
 #include "text/line_search.h"

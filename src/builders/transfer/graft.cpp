@@ -1,6 +1,7 @@
 #include "builders/transfer/graft.h"
 
 #include "builders/transfer/extract_part.h"
+#include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/rewrite_pass.h"
 
