@@ -44,6 +44,13 @@ ListView::ListView(QWidget* parent) : QListView(parent) {
   setVerticalScrollMode(ScrollPerItem);
 }
 
+QSize ListView::minimumSizeHint() const {
+  constexpr int kRows = 2;
+  constexpr int kRowMargin = 5;
+  const int rows = kRows * (fontMetrics().height() + kRowMargin);
+  return {QListView::minimumSizeHint().width(), rows + 2 * frameWidth()};
+}
+
 void ListView::keyboardSearch(const QString& text) {
   const auto* items = dynamic_cast<ListModel*>(model());
   if (items == nullptr || items->rowCount() == 0 || text.isEmpty()) return;

@@ -17,6 +17,8 @@ class ListView : public QListView {
   explicit ListView(QWidget* parent = nullptr);
 
   void keyboardSearch(const QString& text) override;
+  /// Two rows: a window on a small screen takes the room for the rest from its lists.
+  QSize minimumSizeHint() const override;
 
   struct Acts {
     std::function<void(const QMouseEvent&)> pressed;
