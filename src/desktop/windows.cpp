@@ -64,9 +64,10 @@ std::unique_ptr<FormWindow> Windows::makeWindow(front::Form& form) {
 }
 
 FormWindow& Windows::windowOf(front::Form& form) {
-  auto& window = others_[&form];
-  if (!window) window = makeWindow(form);
-  return *window;
+  if (const auto known = others_.find(&form); known != others_.end()) return *known->second;
+  // A window may read a file while it is made, and those that stand tell of it.
+  std::unique_ptr<FormWindow> window = makeWindow(form);
+  return *others_.emplace(&form, std::move(window)).first->second;
 }
 
 void Windows::show(front::Form& form, bool modal) {
