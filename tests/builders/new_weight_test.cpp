@@ -20,22 +20,22 @@ class NewWeightTest : public testing::Test {
   front::ListBox weights{form, "weights"};
 };
 
-TEST_F(NewWeightTest, isATwentiethOfTheLastOne) {
+TEST_F(NewWeightTest, IsATwentiethOfTheLastOne) {
   EXPECT_EQ(weightBehind("\t\tlinkWeight 1 0.4").line, "\t\tlinkWeight 2 .02");
   EXPECT_EQ(weightBehind("\t\tlinkWeight 1 0.4").text, " 2 .02");
 }
 
-TEST_F(NewWeightTest, byRatioIsTheLastOneByTheFirstTwo) {
+TEST_F(NewWeightTest, ByRatioIsTheLastOneByTheFirstTwo) {
   list({"LINKWEIGHTS", " 0 1", " 1 .5"});
   EXPECT_DOUBLE_EQ(weightByRatio(weights, "\t\tlinkWeight 1 .5"), 0.25);
 }
 
-TEST_F(NewWeightTest, byRatioDoesNotStepOverTheNewLinksPlace) {
+TEST_F(NewWeightTest, ByRatioDoesNotStepOverTheNewLinksPlace) {
   list({"LINKWEIGHTS", " 0 1", "Your Link", " 1 .5"});
   EXPECT_DOUBLE_EQ(weightByRatio(weights, "\t\tlinkWeight 1 .5"), 0);
 }
 
-TEST_F(NewWeightTest, byRatioOfNothingIsNothing) {
+TEST_F(NewWeightTest, ByRatioOfNothingIsNothing) {
   EXPECT_DOUBLE_EQ(weightByRatio(weights, ""), 0);
   list({"LINKWEIGHTS", " 0 0", " 1 0"});
   EXPECT_DOUBLE_EQ(weightByRatio(weights, "\t\tlinkWeight 1 0"), 0);
