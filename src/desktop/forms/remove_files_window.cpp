@@ -48,7 +48,7 @@ RemoveFilesWindow::RemoveFilesWindow(const WindowParts& parts, install::FormRemo
   resize(kWidth, kHeight);
 }
 
-void RemoveFilesWindow::addFiles(QLayout& column) {
+void RemoveFilesWindow::addFiles(QVBoxLayout& column) {
   ListView& files = maker().list(form_.ListFiles, *this);
   files.setAccessibleName(QStringLiteral("Files of the figure"));
   files.setItemDelegate(new NotedRows({.chip = {},
@@ -63,13 +63,13 @@ void RemoveFilesWindow::addFiles(QLayout& column) {
   maker().watch({&form_.ListFiles}, [this] { look(); });
   connect(files.selectionModel(), &QItemSelectionModel::selectionChanged, this,
           [this] { weigh(); });
-  column.addItem(makeColumn(QStringLiteral("Files that the figure uses"), &files));
+  column.addLayout(makeColumn(QStringLiteral("Files that the figure uses"), &files), 1);
   total_ = new QLabel(this);
   total_->setObjectName(QStringLiteral("SelectedTotal"));
   column.addWidget(total_);
 }
 
-void RemoveFilesWindow::addOptions(QLayout& column) {
+void RemoveFilesWindow::addOptions(QVBoxLayout& column) {
   auto* line = new QHBoxLayout;
   line->addWidget(maker().make(form_.OptionRemove, *this));
   line->addWidget(maker().make(form_.OptionBackup, *this));
@@ -80,7 +80,7 @@ void RemoveFilesWindow::addOptions(QLayout& column) {
   line->addWidget(&word);
   line->addWidget(&drives, 1);
   line->addStretch();
-  column.addItem(line);
+  column.addLayout(line);
   QLabel* bin = makeHint(
       QStringLiteral("Removed files go to the waste bin of your system, where it has one. Other "
                      "figures may use the same files."),

@@ -9,6 +9,7 @@
 
 class QLabel;
 class QPushButton;
+class QVBoxLayout;
 
 namespace norvik::desktop {
 
@@ -24,8 +25,8 @@ class RemoveFilesWindow : public FormWindow {
     bool readOnly = false;
   };
 
-  void addFiles(QLayout& column);
-  void addOptions(QLayout& column);
+  void addFiles(QVBoxLayout& column);
+  void addOptions(QVBoxLayout& column);
   void look();
   void weigh();
   QString note(int row) const;

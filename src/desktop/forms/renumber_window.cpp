@@ -19,7 +19,7 @@ namespace norvik::desktop {
 
 namespace {
 
-constexpr int kWidth = 820;
+constexpr int kWidth = 880;
 constexpr int kHeight = 500;
 
 }  // namespace
@@ -91,7 +91,7 @@ void RenumberWindow::showPreview() {
     if (file.from == file.to) continue;
     const bool taken = !stopped && session_.disk.exists(install::inFolder(folder, file.to));
     QString text = shown(file.from) + QStringLiteral(" \u2192 ") + shown(file.to);
-    if (taken) text += QStringLiteral("  is there already: GO stops here");
+    if (taken) text += QStringLiteral(" is there: GO stops here");
     auto* item = new QListWidgetItem(text, preview_);
     if (taken) item->setForeground(accentOf(palette()));
     stopped = stopped || taken;

@@ -9,6 +9,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace norvik::desktop {
 
 QWidget* makeInstallPane(Maker& maker, front::Opening& opening, QWidget& parent) {
@@ -42,6 +44,17 @@ QWidget* makeInstallPane(Maker& maker, front::Opening& opening, QWidget& parent)
   });
   maker.showWhileAny(*pane, {&opening.ListboxListCR2Files});
   return pane;
+}
+
+void showUnlessInstalling(Maker& maker, front::Opening& opening, QWidget& widget,
+                          const std::vector<front::Control*>& controls) {
+  const auto show = [&opening, &widget, controls] {
+    const bool any = std::any_of(controls.begin(), controls.end(),
+                                 [](const front::Control* control) { return control->visible(); });
+    widget.setVisible(any && !opening.ListboxListCR2Files.visible());
+  };
+  for (front::Control* control : controls) maker.watch({control}, show);
+  maker.watch({&opening.ListboxListCR2Files}, show);
 }
 
 }  // namespace norvik::desktop

@@ -47,21 +47,6 @@ namespace {
 
 constexpr int kTwipsPerPixel = 15;
 
-/// The panes are there with what they hold, but for the time of an installation.
-void showPanes(Maker& maker, front::Opening& opening, QWidget& panes) {
-  const std::vector<front::Control*> held{&opening.LabelFileName,     &opening.ListActors,
-                                          &opening.ListMaterials,     &opening.ListChannels,
-                                          &opening.ListAltGeomActors, &opening.ListAltGeomNames,
-                                          &opening.ListOBJExtract};
-  const auto show = [&opening, &panes, held] {
-    const bool any = std::any_of(held.begin(), held.end(),
-                                 [](const front::Control* control) { return control->visible(); });
-    panes.setVisible(any && !opening.ListboxListCR2Files.visible());
-  };
-  for (front::Control* control : held) maker.watch({control}, show);
-  maker.watch({&opening.ListboxListCR2Files}, show);
-}
-
 /// Whether the open makes something of a file.
 bool opensInPanes(std::string_view path) {
   constexpr std::array<std::string_view, 8> kTypes{"cr2", "fc2", "pz2", "pz3",
@@ -237,7 +222,10 @@ void MainWindow::makeCentre() {
   workColumn->addWidget(makeMeshPage(maker_, opening_, *work), 1);
   workColumn->addWidget(makeInstallPane(maker_, opening_, *work), 1);
   workColumn->addWidget(makePathBlock(maker_, opening_, *work, paths_));
-  showPanes(maker_, opening_, *panes);
+  showUnlessInstalling(maker_, opening_, *panes,
+                       {&opening_.LabelFileName, &opening_.ListActors, &opening_.ListMaterials,
+                        &opening_.ListChannels, &opening_.ListAltGeomActors,
+                        &opening_.ListAltGeomNames, &opening_.ListOBJExtract});
   pages->addWidget(work);
   column->addWidget(pages, 1);
   setCentralWidget(centre);
@@ -262,7 +250,9 @@ void MainWindow::bindTheRest() {
   for (front::Control* control : opening_.controls()) {
     if (control == &opening_.PictureTile || maker_.bindings().bound(*control)) continue;
     // The body part transfer has no place in the window: its entry does nothing.
-    if (control == &opening_.FileLabel || control == &opening_.NameLabel) continue;
+    const bool ofTheTransfer = control == &opening_.FileChooser || control == &opening_.FileLabel ||
+                               control == &opening_.NameLabel;
+    if (ofTheTransfer) continue;
     if (auto* timer = dynamic_cast<front::Timer*>(control); timer != nullptr) {
       maker_.timer(*timer);
     } else if (QWidget* widget = maker_.make(*control, *centralWidget()); widget != nullptr) {

@@ -25,6 +25,10 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
 /// What the panes give way to while a figure is installed.
 QWidget* makeInstallPane(Maker& maker, front::Opening& opening, QWidget& parent);
 
+/// Shows a widget while any of the controls is visible, but for the time of an installation.
+void showUnlessInstalling(Maker& maker, front::Opening& opening, QWidget& widget,
+                          const std::vector<front::Control*>& controls);
+
 /// What the panes give way to when a mesh is open.
 QWidget* makeMeshPage(Maker& maker, front::Opening& opening, QWidget& parent);
 

@@ -79,9 +79,10 @@ QWidget* makePathBlock(Maker& maker, front::Opening& opening, QWidget& parent,
   outside->addWidget(rule);
   block->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 
-  maker.showWhileAny(*block, {&opening.Shape1, &opening.LabelMainOBJPath, &opening.TextMainOBJ,
-                              &opening.LabelMainTex, &opening.TextMainTex, &opening.TextMainBump,
-                              &opening.TextMainTrans, &opening.TextMainReflect});
+  showUnlessInstalling(maker, opening, *block,
+                       {&opening.Shape1, &opening.LabelMainOBJPath, &opening.TextMainOBJ,
+                        &opening.LabelMainTex, &opening.TextMainTex, &opening.TextMainBump,
+                        &opening.TextMainTrans, &opening.TextMainReflect});
   return block;
 }
 
