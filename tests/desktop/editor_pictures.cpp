@@ -1,5 +1,7 @@
 #include "desktop/editor_pictures.h"
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QtTest>
 
 namespace norvik::desktop {
@@ -19,6 +21,8 @@ void takeEditorPictures(Operator& hand, const QString& drive, const ChooseTheme&
   hand.click(u"PictureEditor"_s);
   QWidget& window = hand.find(u"FormEditor"_s);
   window.move(0, 0);
+  window.activateWindow();
+  QTest::qWait(kShown);
   const auto page = [&window](const char* name) {
     return window.findChild<QWidget*>(QString::fromLatin1(name));
   };
@@ -31,9 +35,10 @@ void takeEditorPictures(Operator& hand, const QString& drive, const ChooseTheme&
   for (int i = 0; i < 14; ++i) QTest::keyClick(left, Qt::Key_Down);
   QTest::qWait(kShown);
   take(u"editor"_s, window);
-  QTest::keyClick(left, Qt::Key_F, Qt::ControlModifier);
-  QTest::keyClicks(QApplication::focusWidget(), u"head:1"_s);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  hand.click(u"PictureFind"_s);
+  QWidget* find = window.findChild<QComboBox*>(u"ComboFind"_s)->lineEdit();
+  QTest::keyClicks(find, u"head:1"_s);
+  QTest::keyClick(find, Qt::Key_Return);
   left->setFocus();
   QTest::keyClick(left, Qt::Key_Down);
   QTest::keyClick(left, Qt::Key_End);
