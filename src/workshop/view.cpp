@@ -2,16 +2,16 @@
 
 #include "figure/check_sgi.h"
 #include "mesh/low_mesh.h"
+#include "mesh/obj_number.h"
+#include "text/columns.h"
+#include "text/number_text.h"
 #include "workshop/mesh_pass.h"
 #include "workshop/mesh_path.h"
 #include "workshop/morph_picture.h"
-#include "mesh/obj_number.h"
 #include "workshop/reading.h"
 #include "workshop/reset.h"
 #include "workshop/spin.h"
 #include "workshop/tool_controls.h"
-#include "text/columns.h"
-#include "text/number_text.h"
 
 #include <cmath>
 #include <utility>
