@@ -57,7 +57,7 @@ void saveStretchedBmp(text::Disk& disk, const Surface& surface, Point size, cons
                       const std::string& scratch) {
   const auto good = [](int pixels) { return pixels > 0 && pixels <= kMostPixels; };
   if (!good(size.x) || !good(size.y) || surface.pixels().empty()) {
-    throw text::FileError(text::ErrorNumber{480});
+    throw text::FileError(text::ErrorNumber::pictureNotMade);
   }
   try {
     write(disk, surface, size, scratch);

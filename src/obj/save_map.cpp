@@ -43,7 +43,7 @@ void save(Workshop& workshop, const Sheet& sheet) {
   front::Session& session = workshop.session;
   front::FormOBJ& form = workshop.form;
   const auto file = mapFile(session.opening, sheet.size);
-  if (!file) throw text::FileError(text::ErrorNumber{480});
+  if (!file) throw text::FileError(text::ErrorNumber::pictureNotMade);
   session.hourglass(true);
   graphics::saveStretchedBmp(session.disk, sheet.picture.surface(), {file->pixels, file->pixels},
                              file->path, session.opening.inProgramFolder(kScratch));

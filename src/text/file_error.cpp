@@ -30,8 +30,9 @@ std::string_view errorText(ErrorNumber number) {
       return "Path/File access error";
     case ErrorNumber::pathNotFound:
       return "Path not found";
+    case ErrorNumber::pictureNotMade:
+      return "Picture cannot be made";
   }
-  if (number == ErrorNumber{480}) return "Picture cannot be made";
   return "Application-defined error";
 }
 

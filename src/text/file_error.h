@@ -21,6 +21,7 @@ enum class ErrorNumber : int {
   permissionDenied = 70,
   pathFileAccess = 75,
   pathNotFound = 76,
+  pictureNotMade = 480,
 };
 
 /// What the operator reads behind "Run-time error 'N': ".

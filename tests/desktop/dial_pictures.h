@@ -7,8 +7,8 @@
 
 namespace norvik::desktop {
 
-/// From the main window with a figure open: the lists of the reorder, the frame of hidden dials, and
-/// the window after a morph was mirrored. The figure stays as it is.
+/// From the main window with a figure open: the lists of the reorder, the frame of hidden dials,
+/// and the window after a morph was mirrored. The figure stays as it is.
 void takeDialPictures(Operator& hand, const std::function<void(const QString& name)>& take);
 
 }  // namespace norvik::desktop

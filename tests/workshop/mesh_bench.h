@@ -2,17 +2,17 @@
 // What a test of the mesh tools stands on: the workshop over a drive of its own.
 
 #include "headless/script_front_end.h"
+#include "obj/leaving.h"
+#include "support/drive.h"
+#include "support/error_number.h"
 #include "workshop/fall_back_view.h"
 #include "workshop/hot_keys.h"
-#include "obj/leaving.h"
 #include "workshop/open_workshop.h"
 #include "workshop/play.h"
 #include "workshop/reset.h"
 #include "workshop/spin.h"
 #include "workshop/view.h"
 #include "workshop/view_keys.h"
-#include "support/drive.h"
-#include "support/error_number.h"
 
 #include <gtest/gtest.h>
 

@@ -1,3 +1,4 @@
+#include "desktop/bind/label_button.h"
 #include "desktop/bind/text_binding.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/mesh_panes.h"
@@ -19,7 +20,6 @@ namespace {
 
 /// The controls of one side: groups, or materials.
 struct Side {
-  front::CommandButton& command;
   front::RichTextBox& listing;
   front::ListBox& names;
   front::ListBox& saved;
@@ -39,7 +39,6 @@ QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, con
 QVBoxLayout* makeSide(Maker& maker, front::Session& session, const Side& side, QWidget& parent) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
-  column->addWidget(maker.make(side.command, parent));
   const QString word = QString::fromLatin1(side.word);
   column->addWidget(new NameListing(maker, session, side.listing, side.kind, parent), 1);
   for (front::ListBox* list : {&side.names, &side.saved}) {
@@ -77,19 +76,23 @@ QWidget* makeMeshLists(Maker& maker, front::Session& session, front::FormOBJ& fo
     keysHeading->setVisible(form.ListHotKeys.visible());
   });
 
+  auto* commands = new QHBoxLayout;
+  for (front::CommandButton* command : {&form.CommandListGroups, &form.CommandListMats}) {
+    commands->addWidget(maker.make(*command, *panel));
+  }
+  column->addLayout(commands);
   auto* sides = new QHBoxLayout;
-  sides->addLayout(makeSide(
-      maker, session,
-      {form.CommandListGroups, form.RichTextBoxGroups, form.ListGroups, form.ListGroupsSave,
-       form.TextGrpRename, form.CheckSaveGroups, "Groups", NameKind::group},
-      *panel));
-  sides->addLayout(makeSide(
-      maker, session,
-      {form.CommandListMats, form.RichTextBoxMaterials, form.ListMaterials, form.ListMaterialsSave,
-       form.TextMatRename, form.CheckSaveMaterials, "Materials", NameKind::material},
-      *panel));
+  sides->addLayout(makeSide(maker, session,
+                            {form.RichTextBoxGroups, form.ListGroups, form.ListGroupsSave,
+                             form.TextGrpRename, form.CheckSaveGroups, "Groups", NameKind::group},
+                            *panel));
+  sides->addLayout(
+      makeSide(maker, session,
+               {form.RichTextBoxMaterials, form.ListMaterials, form.ListMaterialsSave,
+                form.TextMatRename, form.CheckSaveMaterials, "Materials", NameKind::material},
+               *panel));
   column->addLayout(sides, 1);
-  column->addWidget(maker.make(form.LabelRichRename, *panel), 0, Qt::AlignLeft);
+  column->addWidget(&makeLabelButton(maker, form.LabelRichRename, *panel), 0, Qt::AlignLeft);
   column->addWidget(makeTemplateSize(maker, session, form.TextMapSize,
                                      QStringLiteral("Size of the template"), *panel));
   column->addWidget(makeTemplateSize(maker, session, form.TextMapSizeSec,

@@ -39,6 +39,8 @@ QWidget* makeTemplateSize(Maker& maker, front::Session& session, front::TextBox&
   for (const int pixels : {512, 1024, 2048, 4096}) {
     const QString number = QString::number(pixels);
     auto* button = new QPushButton(number, room);
+    constexpr int kRoom = 18;
+    button->setFixedWidth(button->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + kRoom);
     button->setAccessibleName(QStringLiteral("%1 pixels").arg(number));
     QObject::connect(button, &QPushButton::clicked, &entry, [&maker, &size, &entry, pixels] {
       size.setText(std::to_string(pixels));
