@@ -73,7 +73,10 @@ class FileLister {
     return folder + figure::asDiskPath(value);
   }
 
-  void addMap(std::string_view value) {
+  /// Quotes around a path are no part of it.
+  void addMap(std::string_view field) {
+    std::string value{field};
+    std::erase(value, '"');
     if (text::trimmed(value).empty()) return;
     constexpr std::string_view kRuntime = "Runtime";
     if (!holds(value, kRuntime)) return addNamed(mapElsewhere(value), "Map file not present!");
