@@ -17,6 +17,8 @@ class EditorWindowTest : public ProgramBench {
   EditorWindowTest() {
     start(kTilda + "tilda.cr2");
     QTest::mouseClick(&find<QToolButton>("PictureEditor"), Qt::LeftButton);
+    editorWindow().activateWindow();
+    static_cast<void>(QTest::qWaitForWindowActive(&editorWindow(), 1000));
   }
 
   editor::FormEditor& form() {
@@ -59,7 +61,7 @@ TEST_F(EditorWindowTest, ShowsASecondFileBesideTheFirst) {
 }
 
 TEST_F(EditorWindowTest, FindsAndCountsWhatIsTyped) {
-  QTest::keyClick(&page("RichTextBox1"), Qt::Key_F, Qt::ControlModifier);
+  click("PictureFind");
   auto& box = inEditor<QComboBox>("ComboFind");
   ASSERT_TRUE(box.isVisible());
   QTest::keyClicks(box.lineEdit(), "figureResFile");
@@ -75,7 +77,6 @@ TEST_F(EditorWindowTest, FindsAndCountsWhatIsTyped) {
 }
 
 TEST_F(EditorWindowTest, GoesToALine) {
-  QTest::keyClick(&page("RichTextBox1"), Qt::Key_G, Qt::ControlModifier);
   auto& box = inEditor<QLineEdit>("TextLineNum");
   QTest::keyClicks(&box, "5");
   QTest::keyClick(&box, Qt::Key_Return);

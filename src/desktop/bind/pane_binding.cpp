@@ -2,6 +2,9 @@
 
 #include "desktop/page/page_view.h"
 
+#include <QKeyEvent>
+#include <QKeySequence>
+
 namespace norvik::desktop {
 
 PaneBinding::PaneBinding(Dispatcher& dispatcher, front::TextPane& pane, PageView& view)
@@ -33,6 +36,21 @@ void PaneBinding::edit(const std::function<void()>& act) {
   if (!accepts()) return;
   act();
   if (pane_.textChanges() != before) raise(pane_.changed);
+}
+
+/// Keys that edit the page are not those of a menu, wherever that is.
+bool PaneBinding::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    for (const QKeySequence::StandardKey command :
+         {QKeySequence::Undo, QKeySequence::Redo, QKeySequence::Cut, QKeySequence::Copy,
+          QKeySequence::Paste, QKeySequence::SelectAll}) {
+      if (!key.matches(command)) continue;
+      event->accept();
+      return true;
+    }
+  }
+  return WidgetBinding::eventFilter(watched, event);
 }
 
 void PaneBinding::refresh() {

@@ -15,6 +15,7 @@ class PaneBinding : public WidgetBinding {
 
  protected:
   void refresh() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   // The page itself takes keys and mouse, and tells when they have done their work.
   bool mousePressed(const QMouseEvent&) override { return false; }
   bool mouseReleased(const QMouseEvent&) override { return false; }
