@@ -3,21 +3,17 @@
 #include "desktop/chooser_places.h"
 #include "desktop/drives.h"
 #include "desktop/fetcher.h"
-#include "desktop/images.h"
 #include "desktop/launcher.h"
 #include "desktop/printing.h"
-#include "desktop/screen_glass.h"
 #include "desktop/words.h"
 #include "front/form.h"
 #include "front/note_entry.h"
 #include "text/columns.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDateTime>
 #include <QEventLoop>
 #include <QFile>
-#include <QMimeData>
 #include <QScreen>
 #include <QTimer>
 
@@ -268,32 +264,6 @@ void DesktopFrontEnd::waitForOperator() {
   }
   waiting_ = false;
   if (std::exchange(stopped_, false)) throw front::ToolStopped{};
-}
-
-std::optional<graphics::Surface> DesktopFrontEnd::decodePicture(std::string_view bytes) {
-  return decodedPicture(bytes);
-}
-
-bool DesktopFrontEnd::clipboardHoldsPicture() const {
-  const QMimeData* data = QApplication::clipboard()->mimeData();
-  return data != nullptr && data->hasImage();
-}
-
-void DesktopFrontEnd::copyPicture(const graphics::Surface& picture) {
-  // A copy: the clipboard outlives the surface.
-  QApplication::clipboard()->setImage(imageOn(picture).copy());
-}
-
-void DesktopFrontEnd::clearClipboard() {
-  QApplication::clipboard()->clear();
-}
-
-std::optional<front::ScreenPoint> DesktopFrontEnd::pointer() {
-  return screenPointer();
-}
-
-graphics::Surface DesktopFrontEnd::enlarged(const front::ScreenPart& part, int width, int height) {
-  return enlargedScreen(part, width, height);
 }
 
 void DesktopFrontEnd::show(front::Form& form) {
