@@ -58,7 +58,8 @@ void RemoveFilesWindow::addFiles(QVBoxLayout& column) {
                                              const auto at = static_cast<std::size_t>(row);
                                              return at < facts_.size() &&
                                                     (!facts_[at].size || facts_[at].readOnly);
-                                           }},
+                                           },
+                                       .heading = {}},
                                       &files));
   maker().watch({&form_.ListFiles}, [this] { look(); });
   connect(files.selectionModel(), &QItemSelectionModel::selectionChanged, this,
