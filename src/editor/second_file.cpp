@@ -59,12 +59,22 @@ void newFile(front::Session& session, FormEditor& form) {
   form.LabelFileSizeEd2.show();
 }
 
-/// A press or a key in another control takes the focus from the list.
+/// A press, a key, a caret or a paste in another control takes the focus from the list.
 void hideListOnLeaving(FormEditor& form) {
+  const auto hide = [&form] { form.ListMRU.hide(); };
   for (front::Control* control : form.controls()) {
     if (control == &form.ListMRU) continue;
-    control->pressed.add([&form](front::Mouse) { form.ListMRU.hide(); });
-    control->key.add([&form](const std::string&) { form.ListMRU.hide(); });
+    control->pressed.add([hide](front::Mouse) { hide(); });
+    control->key.add([hide](const std::string&) { hide(); });
+  }
+  for (const Side side : {Side::left, Side::right}) {
+    form.page(side).caretMoved.add(hide);
+    form.page(side).changed.add(hide);
+  }
+  for (front::TextBox* box :
+       {static_cast<front::TextBox*>(&form.ComboFind), &form.TextReplace, &form.TextLineNum}) {
+    box->caretMoved.add(hide);
+    box->changed.add(hide);
   }
 }
 

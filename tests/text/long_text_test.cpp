@@ -81,6 +81,18 @@ TEST(LongText, JoinsALineEndThatArrivesInTwo) {
   EXPECT_EQ(text.lineStart(1), 32U * 1024 + 1);
 }
 
+TEST(LongText, JoinsALineEndBehindAPieceThatFallsApart) {
+  const std::string piece(std::size_t{32} * 1024, 'a');
+  LongText text;
+  text.append(piece);
+  text.append("\n" + piece.substr(1));
+  text.replace(100, 0, piece.substr(2000));
+  // The first piece becomes three, the last of which ends with the first half of the line end.
+  text.replace(2 * piece.size() - 2000, 0, piece.substr(1) + "\r");
+  EXPECT_EQ(text.lineCount(), 2U);
+  EXPECT_EQ(text.lineStart(1), 3 * piece.size() - 2000 + 1);
+}
+
 TEST(LongText, IsAsAStringAfterAnyEdits) {
   for (unsigned seed = 1; seed <= 3; ++seed) {
     RandomText random(seed);

@@ -197,8 +197,9 @@ void LongText::replace(std::size_t at, std::size_t length, std::string_view byte
     return;
   }
   if (piece.bytes.size() > kMostInPiece) {
+    const std::size_t before = pieces_.size();
     part(place.piece);
-    mend(place.piece + 1);
+    mend(place.piece + pieces_.size() - before);
   }
   mend(place.piece);
   if (place.piece > 0) mend(place.piece - 1);
