@@ -14,7 +14,8 @@ namespace norvik::obj {
 
 namespace {
 
-/// The overlays, which go again unless a mesh was read into them to its end.
+/// The overlays, which go again unless a mesh was read into them to its end; and with them the
+/// merge, which a mesh that was read before has brought.
 class NewOverlays {
  public:
   NewOverlays(Workshop& workshop, Overlays& overlays) : workshop_(workshop), overlays_(overlays) {
@@ -25,6 +26,8 @@ class NewOverlays {
   ~NewOverlays() {
     if (workshop_.form.AddMode) return;
     overlays_.end();
+    workshop_.form.PictureMerge.hide();
+    workshop_.form.PictureMerge.setEnabled(false);
     workshop_.showChosenView();
   }
 
@@ -44,10 +47,6 @@ bool chooseMesh(Workshop& workshop, std::string& path) {
   session.offerToClearReadOnly(path);
   figure::CheckSGI(session, path);
   return true;
-}
-
-void closeMagnifier(front::Session& session) {
-  if (front::Form* magnifier = session.findForm("Magnifier")) session.unload(*magnifier);
 }
 
 void hideViews(Workshop& workshop) {
@@ -73,7 +72,7 @@ void addMesh(Workshop& workshop, Overlays& overlays) {
   std::string path;
   if (!chooseMesh(workshop, path)) return;
   front::FormOBJ& form = workshop.form;
-  closeMagnifier(workshop.session);
+  workshop.closeMagnifier();
   hideViews(workshop);
   workshop.session.hourglass(true);
   form.AddMode = false;

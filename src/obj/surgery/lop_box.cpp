@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace norvik::obj {
@@ -20,16 +21,18 @@ constexpr std::string_view kScratch = "\\Lop.txt";
 constexpr front::Colour kBoxBlue = 0xFF0000;
 constexpr int kBoxPen = 2;
 
-/// The flat views as they were, to be put back.
+/// The flat views as they are, put back at the end, however it comes.
 class StoredViews {
  public:
   explicit StoredViews(front::FormOBJ& form) : form_(form) {
     for (front::PictureBox* view : form_.flatViews()) surfaces_.push_back(view->surface());
   }
-  void putBack() const {
+  StoredViews(const StoredViews&) = delete;
+  StoredViews& operator=(const StoredViews&) = delete;
+  ~StoredViews() {
     const auto views = form_.flatViews();
     for (std::size_t i = 0; i < views.size(); ++i) {
-      views[i]->surface() = surfaces_.at(i);
+      views[i]->surface() = std::move(surfaces_.at(i));
       views[i]->refresh();
     }
   }
@@ -160,17 +163,15 @@ std::string remarkOn(const LopCount& count) {
          " would go, red in the views.";
 }
 
-/// Asks with what would go marked in the views. After a No they are as they were.
+/// Asks with what would go marked in the views; then they are as they were.
 bool LopBox::agreesToCut(ViewMode view, const LopCorners& box) {
-  const StoredViews before(form_);
+  const StoredViews stored(form_);
   LopCount count;
   text::ignoringErrors([&] { count = LopPass(workshop_, view, box).preview(); });
   for (front::PictureBox* picture : form_.flatViews()) picture->refresh();
   const front::Caution remark(workshop_.session, remarkOn(count));
-  const auto answer = workshop_.session.front.messageBox(
-      "Do you want to remove the mesh in this box?", "Alert!", front::kYesNo);
-  before.putBack();
-  return answer == front::Answer::yes;
+  return workshop_.session.front.messageBox("Do you want to remove the mesh in this box?", "Alert!",
+                                            front::kYesNo) == front::Answer::yes;
 }
 
 void LopBox::cut(ViewMode view, const LopCorners& box) {
