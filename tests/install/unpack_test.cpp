@@ -206,6 +206,17 @@ TEST_F(UnpackTest, WhatStandsThereKeepsItsBytesUnderANumber) {
   EXPECT_EQ(read(".rc (2)") + read(".rc"), "45");
 }
 
+TEST_F(UnpackTest, FilesWhoseNamesDifferInCaseAloneAreAllKept) {
+  drive_.write("Norvik/cr2install/SKIN.tif", "old");
+  drive_.write("Norvik/cr2install/Skin.tif", "older");
+  drive_.write("Norvik/cr2install/skin.tif", "oldest");
+  EXPECT_EQ(unpack({{"Skin.tif", "1"}, {"skin.tif", "2"}}), Unpacked::done);
+  EXPECT_EQ(staged(),
+            (Names{"SKIN (2).tif", "Skin (3).tif", "Skin (5).tif", "skin (4).tif", "skin.tif"}));
+  EXPECT_EQ(read("SKIN (2).tif") + read("Skin (3).tif") + read("skin (4).tif"), "oldolderoldest");
+  EXPECT_EQ(read("Skin (5).tif") + read("skin.tif"), "12");
+}
+
 TEST_F(UnpackTest, AFileInTheWayOfAFolderStays) {
   drive_.write("Norvik/cr2install/maps", "a file");
   drive_.makeFolder("Norvik/cr2install/folder");
