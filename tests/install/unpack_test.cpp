@@ -162,6 +162,22 @@ TEST_F(UnpackTest, AZipWithoutEntriesLeavesNothing) {
   EXPECT_EQ(staged(), Names{});
 }
 
+TEST_F(UnpackTest, WhoeverIsToldOfBytesFindsTheCurrentFolderAsItWas) {
+  drive_.write("doll.zip", zipBytes({{"a", "1"}, {"b", "2"}}));
+  const auto before = std::filesystem::current_path();
+  ZipFile zip(drive_.path("doll.zip"));
+  ZipEntry entry;
+  for (const bool whole : {true, false}) {
+    ASSERT_TRUE(zip.next(entry));
+    zip.write(drive_.path("Norvik"), entry.name, [&](std::uint64_t) {
+      EXPECT_EQ(std::filesystem::current_path(), before);
+      return whole;
+    });
+    EXPECT_EQ(std::filesystem::current_path(), before);
+    EXPECT_EQ(drive_.exists("Norvik/" + entry.name), whole);
+  }
+}
+
 TEST_F(UnpackTest, TooManyEntriesAreRefusedBeforeAnyIsUnpacked) {
   EXPECT_EQ(unpack({{"a", "1"}, {"b", "2"}, {"c", "3"}}, {1000, 3}), Unpacked::done);
   EXPECT_EQ(staged().size(), 3U);
