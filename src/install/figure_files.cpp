@@ -15,6 +15,7 @@ using text::anywhere;
 using text::begins;
 using text::holds;
 
+constexpr std::string_view kRuntime = "Runtime";
 constexpr std::string_view kNeverListed =
     "Runtime\\textures\\Poser 4 Textures\\P4 woman texture.tif";
 
@@ -47,8 +48,9 @@ class FileLister {
     if (line == "textureMap") {
       const std::string value = readOn();
       if (isMap("textureMap " + value)) addMap(value);
-    } else if (holds(line, "Map") && isMap(line)) {
-      addMap(behindKey(line));
+    } else if (holds(line, "Map") && isMap(line) && !behindKey(line).empty()) {
+      // What ends the key may be a tab, and the first blank then a part of the path.
+      addMap(holds(line, kRuntime) ? line : behindKey(line));
     }
   }
 
@@ -73,12 +75,12 @@ class FileLister {
     return folder + figure::asDiskPath(value);
   }
 
-  /// Quotes around a path are no part of it.
+  /// Quotes and blanks around a path are no part of it.
   void addMap(std::string_view field) {
-    std::string value{field};
-    std::erase(value, '"');
-    if (text::trimmed(value).empty()) return;
-    constexpr std::string_view kRuntime = "Runtime";
+    std::string unquoted{field};
+    std::erase(unquoted, '"');
+    const std::string_view value = text::trimmed(unquoted);
+    if (value.empty()) return;
     if (!holds(value, kRuntime)) return addNamed(mapElsewhere(value), "Map file not present!");
     const std::string below = figure::pathBelow("", value, kRuntime);
     if (below != kNeverListed) addNamed(poser_ + below, "Map file not present!");

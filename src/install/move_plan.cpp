@@ -22,8 +22,10 @@ StagedMove to(const std::string& folder, std::string_view name) {
 }  // namespace
 
 InstallPlaces InstallPlaces::of(const front::Opening& opening, const std::string& library) {
+  const std::string& staging = opening.LabelRtDir.caption();
   const std::string& textures = opening.LabelTexPathCR2Install.caption();
-  return {opening.LabelRtDir.caption(),
+  // Without a folder in front of them the files would be those of the drive's root.
+  return {staging.empty() ? stagingFolder(opening) : staging,
           std::string{text::fileTitle(opening.LabelOBJFileName.caption())}, library,
           opening.LabelObjPathCR2Install.caption(), textures.empty() ? library : textures};
 }

@@ -33,6 +33,11 @@ void move(const std::string& from, const std::string& to) {
   fs::rename(from, to, error);
   if (error != std::errc::cross_device_link) return orRaise(error);
   fs::copy_file(from, to, error);
+  if (error && error != std::errc::file_exists) {
+    // A piece of the file may stand there.
+    std::error_code ignored;
+    fs::remove(to, ignored);
+  }
   orRaise(error);
   fs::remove(from, error);
 }
@@ -43,11 +48,16 @@ Shelf::Shelf(std::string hostFolder) : host_(std::move(hostFolder)) {
   std::error_code error;
   fs::directory_iterator entries(host_, error);
   orRaise(error);
+  std::vector<std::string> names;
   for (; entries != fs::directory_iterator(); entries.increment(error)) {
-    std::string name = entries->path().filename().string();
-    names_.try_emplace(text::foldedName(name), Known{name});
+    names.push_back(entries->path().filename().string());
   }
   orRaise(error);
+  text::sortNames(names);
+  for (const std::string& name : names) {
+    const auto [known, isNew] = names_.try_emplace(text::foldedName(name), Known{name});
+    if (!isNew) known->second.others.push_back(name);
+  }
 }
 
 Shelf& Shelf::folder(const std::string& name) {
@@ -66,12 +76,21 @@ Shelf& Shelf::folder(const std::string& name) {
 }
 
 void Shelf::makeRoom(Known& taken) {
-  if (typeOf(path(taken.name)) != fs::file_type::regular) refuse(taken.name);
+  std::vector<std::string> standing{taken.name};
+  standing.insert(standing.end(), taken.others.begin(), taken.others.end());
+  for (const std::string& name : standing) {
+    if (typeOf(path(name)) != fs::file_type::regular) refuse(name);
+  }
+  taken.others.clear();
+  for (const std::string& name : standing) keepUnderNumber(taken, name);
+}
+
+void Shelf::keepUnderNumber(Known& taken, const std::string& name) {
   std::string other;
   do {
-    other = numberedName(taken.name, ++taken.numbered);
+    other = numberedName(name, ++taken.numbered);
   } while (names_.contains(text::foldedName(other)));
-  move(path(taken.name), path(other));
+  move(path(name), path(other));
   names_.try_emplace(text::foldedName(other), Known{other});
 }
 

@@ -20,18 +20,20 @@ class Shelf {
   Shelf& folder(const std::string& name);
 
   /// Moves a host file here under a name. A file that has it is kept: it takes the first free name
-  /// with a number.
+  /// with a number. So does each of several whose names differ in case alone.
   void take(const std::string& hostFile, const std::string& name);
 
  private:
   struct Known {
     std::string name;  ///< as the host spells it
     std::unique_ptr<Shelf> shelf{};
-    int numbered = 1;  ///< the last number that files of this name were given
+    std::vector<std::string> others{};  ///< what differs from it in case alone
+    int numbered = 1;                   ///< the last number that files of this name were given
   };
 
   std::string path(const std::string& name) const { return host_ + "/" + name; }
   void makeRoom(Known& taken);
+  void keepUnderNumber(Known& taken, const std::string& name);
 
   std::string host_;
   std::map<std::u32string, Known> names_;

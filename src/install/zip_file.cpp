@@ -46,8 +46,8 @@ class Utf8Names {
   locale_t before_;
 };
 
-/// The host's current folder for a while: files are written by names without a folder, so that
-/// libarchive may refuse all that leads elsewhere.
+/// The host's current folder for a moment: files are made by names without a folder, so that
+/// libarchive may refuse all that leads elsewhere. Nobody else's code runs meanwhile.
 class WithinFolder {
  public:
   explicit WithinFolder(const std::string& folder)
@@ -174,7 +174,7 @@ bool ZipFile::next(ZipEntry& entry) {
 ZipFile::Written ZipFile::write(const std::string& hostFolder, const std::string& name,
                                 const MayWrite& mayWrite) {
   constexpr unsigned kMode = 0666;  // the user's mask takes from it
-  const WithinFolder within(hostFolder);
+  const std::string made = hostFolder + "/" + name;
   const std::unique_ptr<archive, WriteEnd> disk{archive_write_disk_new()};
   const std::unique_ptr<archive_entry, EntryEnd> file{archive_entry_new()};
   if (disk == nullptr || file == nullptr) {
@@ -184,7 +184,10 @@ ZipFile::Written ZipFile::write(const std::string& hostFolder, const std::string
   archive_entry_set_pathname(file.get(), name.c_str());
   archive_entry_set_filetype(file.get(), AE_IFREG);
   archive_entry_set_perm(file.get(), kMode);
-  if (archive_write_header(disk.get(), file.get()) != ARCHIVE_OK) raiseOf(disk.get());
+  {
+    const WithinFolder within(hostFolder);
+    if (archive_write_header(disk.get(), file.get()) != ARCHIVE_OK) raiseOf(disk.get());
+  }
 
   const auto copy = [&] {
     for (;;) {
@@ -209,10 +212,10 @@ ZipFile::Written ZipFile::write(const std::string& hostFolder, const std::string
     if (archive_write_finish_entry(disk.get()) != ARCHIVE_OK) raiseOf(disk.get());
   } catch (...) {
     static_cast<void>(archive_write_close(disk.get()));
-    ::unlink(name.c_str());
+    ::unlink(made.c_str());
     throw;
   }
-  if (written != Written::whole) ::unlink(name.c_str());
+  if (written != Written::whole) ::unlink(made.c_str());
   return written;
 }
 

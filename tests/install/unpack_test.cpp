@@ -162,6 +162,22 @@ TEST_F(UnpackTest, AZipWithoutEntriesLeavesNothing) {
   EXPECT_EQ(staged(), Names{});
 }
 
+TEST_F(UnpackTest, WhoeverIsToldOfBytesFindsTheCurrentFolderAsItWas) {
+  drive_.write("doll.zip", zipBytes({{"a", "1"}, {"b", "2"}}));
+  const auto before = std::filesystem::current_path();
+  ZipFile zip(drive_.path("doll.zip"));
+  ZipEntry entry;
+  for (const bool whole : {true, false}) {
+    ASSERT_TRUE(zip.next(entry));
+    zip.write(drive_.path("Norvik"), entry.name, [&](std::uint64_t) {
+      EXPECT_EQ(std::filesystem::current_path(), before);
+      return whole;
+    });
+    EXPECT_EQ(std::filesystem::current_path(), before);
+    EXPECT_EQ(drive_.exists("Norvik/" + entry.name), whole);
+  }
+}
+
 TEST_F(UnpackTest, TooManyEntriesAreRefusedBeforeAnyIsUnpacked) {
   EXPECT_EQ(unpack({{"a", "1"}, {"b", "2"}, {"c", "3"}}, {1000, 3}), Unpacked::done);
   EXPECT_EQ(staged().size(), 3U);
@@ -204,6 +220,17 @@ TEST_F(UnpackTest, WhatStandsThereKeepsItsBytesUnderANumber) {
                              "skin (3).TIF"}));
   EXPECT_EQ(read("Skin (2).tif") + read("skin (3).TIF") + read("SKIN.tif"), "old12");
   EXPECT_EQ(read(".rc (2)") + read(".rc"), "45");
+}
+
+TEST_F(UnpackTest, FilesWhoseNamesDifferInCaseAloneAreAllKept) {
+  drive_.write("Norvik/cr2install/SKIN.tif", "old");
+  drive_.write("Norvik/cr2install/Skin.tif", "older");
+  drive_.write("Norvik/cr2install/skin.tif", "oldest");
+  EXPECT_EQ(unpack({{"Skin.tif", "1"}, {"skin.tif", "2"}}), Unpacked::done);
+  EXPECT_EQ(staged(),
+            (Names{"SKIN (2).tif", "Skin (3).tif", "Skin (5).tif", "skin (4).tif", "skin.tif"}));
+  EXPECT_EQ(read("SKIN (2).tif") + read("Skin (3).tif") + read("skin (4).tif"), "oldolderoldest");
+  EXPECT_EQ(read("Skin (5).tif") + read("skin.tif"), "12");
 }
 
 TEST_F(UnpackTest, AFileInTheWayOfAFolderStays) {
