@@ -86,7 +86,8 @@ class FileLister {
     if (below != kNeverListed) addNamed(poser_ + below, "Map file not present!");
   }
 
-  void addNamed(const std::string& path, std::string_view complaint) {
+  void addNamed(std::string path, std::string_view complaint) {
+    std::erase(path, '"');
     if (!session_.disk.exists(path)) {
       session_.front.messageBox(complaint, "Error!", front::kCritical);
     }

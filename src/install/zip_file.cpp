@@ -51,7 +51,7 @@ class Utf8Names {
 class WithinFolder {
  public:
   explicit WithinFolder(const std::string& folder)
-      : before_(::open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+      : before_(::open(".", O_PATH | O_DIRECTORY | O_CLOEXEC)) {
     if (before_ < 0 || ::chdir(folder.c_str()) != 0) {
       const int error = errno;
       if (before_ >= 0) ::close(before_);

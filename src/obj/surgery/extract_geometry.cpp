@@ -54,8 +54,8 @@ void OBJExtractor(front::Session& session) {
       "Would you like to export the embedded geometry to a new OBJ file? (Your original file will "
       "not be harmed.)",
       "Note!", front::kYesNo);
-  putListAway(opening);
-  if (answer != front::Answer::yes) return;
+  opening.ListOBJExtract.clear();
+  if (answer != front::Answer::yes) return opening.ListOBJExtract.hide();
   listOwners(opening.ListOBJExtract,
              text::LineReader(session.disk, opening.LabelFileNameForEditor.caption()));
   if (opening.ListOBJExtract.count() == 0) return;
