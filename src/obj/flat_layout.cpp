@@ -13,6 +13,19 @@
 
 namespace norvik::obj {
 
+namespace {
+
+/// Takes the next coordinate of a vertex off the front. As in the read of a mesh, one blank too
+/// many in front of it does not count.
+std::string_view takeCoordinate(std::string_view& rest) {
+  if (text::begins(rest, " ")) rest.remove_prefix(1);
+  const std::string_view coordinate = text::before(rest, " ");
+  rest = text::from(rest, coordinate.size() + 2);
+  return coordinate;
+}
+
+}  // namespace
+
 FlatLayout::FlatLayout(Workshop& workshop)
     : workshop_(workshop),
       picture_(workshop.form.PictureUVMap),
@@ -64,11 +77,9 @@ void FlatLayout::layFace(std::string_view record) {
 
 void FlatLayout::layCorner(std::size_t vertex, bool first) {
   constexpr std::size_t kFirstOfX = 3;
-  const std::string_view record = text::from(vertices_.get(vertex), kFirstOfX);
-  const std::string_view xText = text::before(record, " ");
-  const double x = static_cast<double>(leadingSingle(xText));
-  const double y =
-      static_cast<double>(leadingSingle(text::before(text::from(record, xText.size() + 2), " ")));
+  std::string_view rest = text::from(vertices_.get(vertex), kFirstOfX);
+  const double x = static_cast<double>(leadingSingle(takeCoordinate(rest)));
+  const double y = static_cast<double>(leadingSingle(takeCoordinate(rest)));
   if (first) {
     MinX_ = std::min(MinX_, x);
     MaxX_ = std::max(MaxX_, x);

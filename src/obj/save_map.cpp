@@ -66,6 +66,7 @@ void wire(Workshop& workshop, Sheet (*sheetOf)(front::FormOBJ&)) {
     if (size.text() == kPrompt) size.setText({});
   };
   size.caretMoved.add(clearPrompt);
+  size.pressed.add([clearPrompt](front::Mouse) { clearPrompt(); });
   size.key.add([&workshop, sheetOf, clearPrompt](const std::string& key) {
     clearPrompt();
     if (key == "Enter") save(workshop, sheetOf(workshop.form));
