@@ -164,6 +164,10 @@ void Operator::menu(const QStringList& path) {
       QTest::mouseClick(open, Qt::LeftButton, {}, open->actionGeometry(action).center());
     }
     open = next;
+    // A menu within a menu comes up a moment later.
+    if (open != nullptr && !QTest::qWaitFor([open] { return open->isVisible(); })) {
+      giveUp("no menu " + name.toStdString());
+    }
   }
 }
 

@@ -296,6 +296,8 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   takePhi(program, hand, drive, camera);
   takeInstaller(program, hand, drive, camera);
   takeEditor(program, hand, drive, camera);
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
   takeSurgery(program, hand, drive, camera);
   takeSmallTools(program, hand, drive, camera);
   chooseTheme(program, u"system"_s);
