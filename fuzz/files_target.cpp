@@ -73,13 +73,16 @@ std::string trimmed(const std::string& text) {
 /// The files that a figure uses; the error that ends the listing comes last.
 Lines plainUsed(const std::string& figure, const std::string& text) {
   Lines listed{figure};
-  const auto add = [&](const std::string& path) {
+  const auto add = [&](std::string path) {
+    std::erase(path, '"');
     if (std::find(listed.begin(), listed.end(), path) == listed.end()) listed.push_back(path);
   };
-  const auto addMap = [&](const std::string& line, const std::string& value) {
+  const auto addMap = [&](const std::string& line, std::string value) {
     const bool none =
         holds(line, "NO_MAP") || holds(line, "depth") || holds(line, "GetStringRes(1029");
-    if (none || trimmed(value).empty()) return;
+    std::erase(value, '"');
+    value = trimmed(value);
+    if (none || value.empty()) return;
     const std::string path = plainMap(value);
     if (path != "C:\\Poser\\Runtime\\textures\\Poser 4 Textures\\P4 woman texture.tif") add(path);
   };
@@ -98,7 +101,8 @@ Lines plainUsed(const std::string& figure, const std::string& text) {
         const std::string value = in.field();
         addMap(value, value);
       } else if (holds(line, "Map") && line.find(' ') != std::string::npos) {
-        addMap(line, trimmed(line.substr(line.find(' '))));
+        const std::string behind = trimmed(line.substr(line.find(' ')));
+        if (!behind.empty()) addMap(line, holds(line, "Runtime") ? line : behind);
       }
     }
   } catch (int error) {

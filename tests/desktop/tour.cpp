@@ -294,6 +294,8 @@ void takePictures(desktop::Program& program, desktop::Operator& hand, const QStr
   desktop::takePosePictures(
       hand, drive, [&](const QString& name, const QWidget& window) { camera.take(name, window); });
   takePhi(program, hand, drive, camera);
+  hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
+  hand.menu({u"menuFile"_s, u"MenuFileOpen"_s});
   takeInstaller(program, hand, drive, camera);
   takeEditor(program, hand, drive, camera);
   hand.willChoose(drive + kCharacters + u"tilda.cr2"_s);
