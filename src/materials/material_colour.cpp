@@ -89,7 +89,7 @@ void changeChosen(front::Session& session, front::PictureButton& swatch, std::st
 }  // namespace
 
 void setColourFromBox(front::Session& session, const front::TextBox& box) {
-  const std::string material = box.text();
+  const std::string& material = box.text();
   const front::Answer answer = session.front.messageBox(
       "Set color to this color for " + material + "?", "Confirm", front::kOkCancel);
   if (answer != front::Answer::ok) return;

@@ -44,8 +44,8 @@ class LongTextEdits {
  private:
   /// `kept` comes in the place of `length` bytes when the step is taken back or done again.
   struct Step {
-    std::size_t at;
-    std::size_t length;
+    std::size_t at = 0;
+    std::size_t length = 0;
     LongText kept;
   };
 
