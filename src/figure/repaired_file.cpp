@@ -47,8 +47,7 @@ std::string_view cautionOfRepair(const text::Disk& disk, std::string_view path) 
 
 std::string repairLineEnds(front::Session& session, const std::string& path) {
   const std::string scratchPath = text::throughFirstDot(path, "new");
-  const std::string backup =
-      text::beforeFirstDot(path, text::raised(text::extension(path)) + ".bak");
+  std::string backup = text::beforeFirstDot(path, text::raised(text::extension(path)) + ".bak");
   convert(session, path, scratchPath);
   swap(session.disk, path, scratchPath, backup);
   session.hourglass(false);
