@@ -354,10 +354,6 @@ void DesktopFrontEnd::showPassText(std::string_view text) {
   if (showPassText_) showPassText_(text);
 }
 
-void DesktopFrontEnd::showNote(std::string_view text) {
-  if (showNote_ && !text.empty()) showNote_(text);
-}
-
 void DesktopFrontEnd::runtimeError(const text::FileError& error) {
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);

@@ -8,7 +8,6 @@
 #include "desktop/sound.h"
 #include "front/front_end.h"
 #include "front/repeated_question.h"
-#include "front/status_text.h"
 #include "text/disk.h"
 
 #include <QElapsedTimer>
@@ -32,9 +31,7 @@ class Stage {
   virtual bool drawTile(int left, int top) = 0;
 };
 
-class DesktopFrontEnd : public front::FrontEnd,
-                        public front::RepeatedQuestions,
-                        public front::StatusTexts {
+class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions {
  public:
   DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk);
   ~DesktopFrontEnd() override;
@@ -44,12 +41,9 @@ class DesktopFrontEnd : public front::FrontEnd,
   /// Who says what a tool has left behind.
   using ResultListener = std::function<void(const front::FinishedFile& file)>;
   void setResultListener(ResultListener listener) { tellOfResult_ = std::move(listener); }
-  /// Who shows the status text of a pass, and a note on what a tool has left behind.
-  using StatusListener = std::function<void(std::string_view text)>;
-  void setStatusListeners(StatusListener passText, StatusListener note) {
-    showPassText_ = std::move(passText);
-    showNote_ = std::move(note);
-  }
+  /// Who shows the text of a pass.
+  using PassTextListener = std::function<void(std::string_view text)>;
+  void setPassTextListener(PassTextListener listener) { showPassText_ = std::move(listener); }
 
   /// Does what ends in an open dialog, and answers the dialog with a path: a file that is dropped
   /// on the window takes the way of a chosen one.
@@ -103,7 +97,6 @@ class DesktopFrontEnd : public front::FrontEnd,
   std::string now() const override;
   void tellOf(const front::FinishedFile& file) override;
   void showPassText(std::string_view text) override;
-  void showNote(std::string_view text) override;
   void runtimeError(const text::FileError& error) override;
   void endProcess() override;
 
@@ -121,8 +114,7 @@ class DesktopFrontEnd : public front::FrontEnd,
   text::Disk& disk_;
   Stage* stage_ = nullptr;
   ResultListener tellOfResult_;
-  StatusListener showPassText_;
-  StatusListener showNote_;
+  PassTextListener showPassText_;
   Sound sound_;
   std::unique_ptr<QPrinter> printer_;
   std::optional<std::string> chosen_;

@@ -175,6 +175,8 @@ class FrontEnd {
 
   /// A tool has made or saved a file. Nothing is asked and nothing is opened: a window may say so.
   virtual void tellOf(const FinishedFile& file) { static_cast<void>(file); }
+  /// The text of a pass that goes on, which nobody waits to be read; empty when it has ended.
+  virtual void showPassText(std::string_view text) { static_cast<void>(text); }
   /// Tells the operator that a tool was stopped by an error.
   virtual void runtimeError(const text::FileError& error) = 0;
   /// Called last of all: the process ends when the running handler has returned.

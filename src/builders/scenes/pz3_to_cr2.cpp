@@ -2,7 +2,6 @@
 
 #include "builders/scenes/figure_sections.h"
 #include "front/finished_file.h"
-#include "front/status_text.h"
 #include "text/first_dot.h"
 #include "text/line_search.h"
 
@@ -56,8 +55,7 @@ void convert(front::Session& session) {
   const std::string note = writeFigure(session, scratch);
   session.disk.replace(scratch, dialog.fileName());
   session.hourglass(false);
-  session.front.tellOf({.path = dialog.fileName()});
-  front::showNote(session.front, note);
+  session.front.tellOf({.path = dialog.fileName(), .note = note});
 }
 
 }  // namespace

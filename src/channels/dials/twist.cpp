@@ -1,6 +1,5 @@
 #include "channels/dials/twist.h"
 
-#include "front/status_text.h"
 #include "text/columns.h"
 #include "text/line_reader.h"
 #include "text/patched_file.h"
@@ -60,7 +59,7 @@ std::vector<std::uint64_t> findLines(front::Session& session, const Channels& ch
   text::LineReader in(session.disk, session.opening.OpenedPath);
   for (in.passLines(stops); !in.atEnd() && places.size() < most; in.passLines(stops)) {
     const std::uint64_t place = in.position();
-    front::showPassText(session.front, workingText(place));
+    session.front.showPassText(workingText(place));
     const auto line = in.line();
     const bool ofPart = std::any_of(channels.begin(), channels.end(),
                                     [line](auto channel) { return text::holds(line, channel); });
@@ -92,7 +91,7 @@ std::optional<std::size_t> turnLines(front::Session& session, const std::string&
     text::PatchedFile file(session.disk, session.opening.OpenedPath);
     for (const std::uint64_t place : places) file.put(place, to);
   });
-  front::showPassText(session.front, {});
+  session.front.showPassText({});
   session.hourglass(false);
   if (whole) return count;
   session.front.messageBox("Oddball file!  Can't process!", "Error!", front::kOk);

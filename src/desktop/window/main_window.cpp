@@ -21,7 +21,6 @@
 #include "front/finished_file.h"
 #include "text/columns.h"
 #include "text/file_names.h"
-#include "text/save_copy.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -71,8 +70,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   addToolBar(makeToolStrip(maker_, opening_, *this));
   status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
   frontEnd_.setResultListener([this](const front::FinishedFile& file) { tellOf(file); });
-  frontEnd_.setStatusListeners([this](std::string_view text) { status_->say(shown(text)); },
-                               [this](std::string_view text) { status_->note(shown(text)); });
+  frontEnd_.setPassTextListener([this](std::string_view text) { status_->say(shown(text)); });
   makeCentre();
   bindTheRest();
   listenToMenus();
@@ -82,7 +80,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
 
 MainWindow::~MainWindow() {
   frontEnd_.setResultListener({});
-  frontEnd_.setStatusListeners({}, {});
+  frontEnd_.setPassTextListener({});
 }
 
 void MainWindow::makeMenus() {
@@ -150,9 +148,14 @@ void MainWindow::tellOf(const front::FinishedFile& file) {
         {QStringLiteral("Open"), [this, path = file.path] { openDropped(path, false); }});
   }
   const QString name = shown(text::fileTitle(file.path));
-  status_->offer(file.isScratch ? QStringLiteral("Made: \\%1").arg(name)
-                                : QStringLiteral("Saved: %1").arg(name),
-                 shown(file.path), std::move(actions));
+  QString line = file.isScratch ? QStringLiteral("Made: \\%1").arg(name)
+                                : QStringLiteral("Saved: %1").arg(name);
+  QString tip = shown(file.path);
+  if (!file.note.empty()) {
+    line += QStringLiteral(". ") + shown(file.note);
+    tip += QLatin1Char('\n') + shown(file.note);
+  }
+  status_->offer(line, tip, std::move(actions));
 }
 
 void MainWindow::showDisplaced(const front::FinishedFile& file) {
@@ -175,7 +178,7 @@ void MainWindow::saveCopyOf(const std::string& path) {
                                               .folder = folder,
                                               .file = std::string{text::fileTitle(path)}});
     if (!target) return;
-    text::saveCopy(session_.disk, path, *target, opening_.inProgramFolder("\\SaveCopy.tmp"));
+    if (!session_.disk.isSameFile(path, *target)) session_.disk.copy(path, *target);
     tellOf({.path = *target});
   });
 }

@@ -78,12 +78,6 @@ void StatusLine::withdraw() {
   result_->setToolTip(QString());
 }
 
-void StatusLine::note(const QString& text) {
-  if (result_->text().isEmpty()) return;
-  result_->setText(result_->text() + QStringLiteral(" &nbsp;") + text.toHtmlEscaped());
-  result_->setToolTip(result_->toolTip() + QLatin1Char('\n') + text);
-}
-
 void StatusLine::rest() {
   progress_->hide();
 }

@@ -32,8 +32,6 @@ class StatusLine {
   /// it is withdrawn. The tip says where it lies.
   void offer(const QString& text, const QString& tip, std::vector<ResultAction> actions);
   void withdraw();
-  /// Says more of what is on offer.
-  void note(const QString& text);
   /// No pass is under way any more.
   void rest();
   /// How far a long pass has read its file; files that are read at once show nothing.
