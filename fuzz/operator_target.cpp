@@ -3,11 +3,11 @@
 // process dies in a second run, the rest is the operator. Whatever he does: no crash and no hang;
 // and wherever the process dies, each of his files stands as some act had left it.
 
-#include "failing_host.h"
 #include "headless/commands.h"
 #include "input.h"
 #include "random_operator.h"
 #include "small_world.h"
+#include "support/faulty_host.h"
 #include "text/history.h"
 
 #include <map>
@@ -70,7 +70,7 @@ class Run {
 
   MemoryHost memory;
   std::vector<std::string> paths;
-  FailingHost failing{memory};
+  tests::FaultyHost failing{memory};
   std::ostringstream events;
   headless::Transcript transcript{events};
   headless::Outcome outcome;
@@ -140,10 +140,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto operations = first.failing.operations();
   if (operations == 0 || deathByte == 0) return 0;
   Run second(damage);
-  second.failing.dieAt(1 + deathByte % operations);
+  second.failing.setFault(tests::Fault::killed, 1 + deathByte % operations);
   std::size_t line = 0;
   play(second, [&] {
-    if (line >= script.size() || second.failing.dead()) return false;
+    if (line >= script.size() || second.failing.faultMet()) return false;
     // By value: a form that waits takes the lines that follow.
     const std::string text = script[line++];
     second.carryOut(text);
