@@ -105,7 +105,7 @@ class HistoryProgramTest : public testing::Test {
     options.settings = outside_.path("norvik.ini");
     program_ = std::make_unique<Program>(options, asker_);
   }
-  ~HistoryProgramTest() override { qunsetenv("XDG_STATE_HOME"); }
+  ~HistoryProgramTest() override { qputenv("XDG_STATE_HOME", before_); }
 
   void replace() {
     drive_.write("f.cr2", "old\r\n");
@@ -116,6 +116,7 @@ class HistoryProgramTest : public testing::Test {
   QWidget& window() { return program_->mainWindow(); }
   QLabel& news() { return *window().findChild<QLabel*>(QStringLiteral("HistoryNews")); }
 
+  const QByteArray before_ = qgetenv("XDG_STATE_HOME");
   TemporaryFolder drive_;
   TemporaryFolder outside_;
   YesAsker asker_;
