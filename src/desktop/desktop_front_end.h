@@ -7,6 +7,7 @@
 #include "desktop/pacer.h"
 #include "desktop/sound.h"
 #include "front/front_end.h"
+#include "front/further_ways.h"
 #include "front/repeated_question.h"
 #include "text/disk.h"
 
@@ -31,7 +32,9 @@ class Stage {
   virtual bool drawTile(int left, int top) = 0;
 };
 
-class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions {
+class DesktopFrontEnd : public front::FrontEnd,
+                        public front::FurtherWaysOffer,
+                        public front::RepeatedQuestions {
  public:
   DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk);
   ~DesktopFrontEnd() override;
@@ -60,6 +63,7 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   front::Answer messageBox(std::string_view text, std::string_view title, int style) override;
   void beginRepeats(std::string_view title) override;
   void endRepeats() override;
+  std::optional<std::size_t> offer(const front::FurtherWays& offered) override;
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
