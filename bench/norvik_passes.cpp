@@ -24,6 +24,8 @@ std::optional<double> cpLimit(Kind kind) {
     case Kind::rewrite:
     case Kind::substitution:
       return 1.5;
+    case Kind::readAndRewrite:
+      return 2.5;
     case Kind::copy:
       return 3;
     case Kind::open:
