@@ -119,7 +119,7 @@ std::vector<Pass> builderPasses() {
           pass("master figure", rewrite, plain, makeMaster),
           pass("figure with its geometry outside", copy, embedded, makeLibraryFile),
           pass("phi file", open, plain, makePhi),
-          pass("cut of a branch", rewrite, plain, cutBranch),
+          pass("cut of a branch", readAndRewrite, plain, cutBranch),
           pass("extraction of a body part", read, plain, extractPart),
           pass("graft of a body part", rewrite, plain, graftPart),
           pass("alternate geometry", rewrite, plain, addGeometry),

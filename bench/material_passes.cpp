@@ -35,7 +35,7 @@ void addMaterials(Bench& bench) {
 std::vector<Pass> materialPasses() {
   using enum Kind;
   using enum Figure;
-  return {pass("colour of a material", rewrite, plain, changeColour),
+  return {pass("colour of a material", readAndRewrite, plain, changeColour),
           pass("list of materials", read, plain, listMaterials),
           pass("removal of materials", rewrite, plain, removeMaterials),
           pass("addition of materials", rewrite, plain, addMaterials)};

@@ -26,7 +26,7 @@ std::string workFile(const std::string& original) {
 
 void clear(const std::string& folder) {
   for (const char* made :
-       {"cp.out", "sed.out", "f.new", "Chop.doc", "saved.cr2", "copied.cr2", "Norvik/cr2temp.txt",
+       {"cp.out", "tool.out", "f.new", "Chop.doc", "saved.cr2", "copied.cr2", "Norvik/cr2temp.txt",
         "Norvik/SaveMorph.txt", "Norvik/InsertMorph.txt", "figureNew.pz2", "mat.pz2", "work.cam",
         "work.bak", "Norvik/Mor.txt", "Norvik/Combine.pz2"}) {
     fs::remove(folder + "/" + made);
@@ -47,7 +47,12 @@ Result measure(const Pass& pass, const Setup& setup) {
   if (pass.kind == Kind::read) tool = {"wc", "-l", original};
   if (pass.kind == Kind::substitution) {
     tool = {"sed", "s/textureMap .*/textureMap \"C:Poser:Runtime:textures:new.bmp\"\\r/", original};
-    toolOutput = setup.folder + "/sed.out";
+    toolOutput = setup.folder + "/tool.out";
+  }
+  if (pass.kind == Kind::arithmetic) {
+    tool = {"awk", "/^v /{printf \"v %.6f %.6f %.6f\\n\", $2*2, $3*2, $4*2; next} !/^vn/",
+            original};
+    toolOutput = setup.folder + "/tool.out";
   }
 
   std::vector<double> times;

@@ -113,7 +113,7 @@ std::vector<Pass> meshPasses() {
       pass("export of an embedded geometry", copy, embedded, exportGeometry),
       pass("mesh condensed", rewrite, mesh, [](Bench& bench) { condense(bench, false); }),
       pass("mesh condensed to a morph", rewrite, mesh, [](Bench& bench) { condense(bench, true); }),
-      pass("mesh scaled", rewrite, mesh, scaleMesh)};
+      pass("mesh scaled", arithmetic, mesh, scaleMesh)};
 }
 
 }  // namespace norvik::bench

@@ -22,8 +22,9 @@ std::string fileOf(Figure figure);
 /// Whether a pass replaces this file, which gets another name for each run then.
 bool isReplaced(Figure figure);
 
-/// What a pass is held against; reads and rewrites have a limit in times of cp.
-enum class Kind { read, rewrite, readAndRewrite, substitution, copy, open };
+/// What a pass is held against: all but the arithmetic have a limit in times of cp, and that one
+/// works out every number of a mesh again, as an awk does beside it.
+enum class Kind { read, rewrite, readAndRewrite, substitution, copy, open, arithmetic };
 
 struct Pass {
   std::string name;
