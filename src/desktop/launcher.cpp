@@ -133,7 +133,8 @@ bool openWithDesktop(const text::Disk& disk, std::string_view target, std::strin
 
 QString guideFolder() {
   const QDir program(QCoreApplication::applicationDirPath());
-  for (const char* const place : {"../share/doc/norvik", "../../docs"}) {
+  // Of an installation, beside a build of the source, and of the programs deep in that build.
+  for (const char* const place : {"../share/doc/norvik", "../../docs", "../../../../docs"}) {
     const QString folder = QDir::cleanPath(program.filePath(QString::fromLatin1(place)));
     if (QFileInfo::exists(folder + QStringLiteral("/window.md"))) return folder;
   }
