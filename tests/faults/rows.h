@@ -10,6 +10,7 @@ namespace norvik::tests {
 
 using FaultRows = std::vector<FaultRow>;
 
+FaultRows figureRows();
 FaultRows copyRows();
 FaultRows surgeryRows();
 FaultRows dialRows();
@@ -22,6 +23,9 @@ FaultRows editorRows();
 FaultRows meshToolRows();
 FaultRows meshRows();
 FaultRows smallToolRows();
+
+/// All of them, which is the table.
+FaultRows allRows();
 
 /// So many lines that a file of them is written in several pieces.
 std::string manyLines(const std::string& line);

@@ -20,6 +20,16 @@ std::string manyLines(const std::string& line) {
   return lines;
 }
 
+FaultRows allRows() {
+  FaultRows all;
+  for (const auto rows :
+       {figureRows, copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows, materialRows,
+        poseRows, editorRows, meshToolRows, meshRows, smallToolRows}) {
+    for (FaultRow& row : rows()) all.push_back(std::move(row));
+  }
+  return all;
+}
+
 static void PrintTo(const FaultRow& row, std::ostream* out) {
   *out << row.name;
 }
@@ -28,16 +38,6 @@ static void PrintTo(const HostFault& fault, std::ostream* out) {
 }
 
 namespace {
-
-FaultRows allRows() {
-  FaultRows all;
-  for (const auto rows :
-       {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows, materialRows, poseRows,
-        editorRows, meshToolRows, meshRows, smallToolRows}) {
-    for (FaultRow& row : rows()) all.push_back(std::move(row));
-  }
-  return all;
-}
 
 using Case = std::tuple<FaultRow, HostFault>;
 
