@@ -34,9 +34,10 @@ const ListModel& NameKeys::items() const {
 
 bool NameKeys::eventFilter(QObject* watched, QEvent* event) {
   const bool typing = watched == line_;
-  if (typing && event->type() == QEvent::FocusOut &&
-      static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-    leave();
+  if (typing && event->type() == QEvent::FocusOut) {
+    // A menu, or another window in front, gives the keys back.
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) leave();
     return false;
   }
   if (event->type() != QEvent::KeyPress) return false;
@@ -80,7 +81,7 @@ void NameKeys::edit() {
 /// The name stays as it is.
 void NameKeys::leave() {
   if (line_->isHidden()) return;
-  const bool hadKeys = line_->hasFocus();
+  const bool hadKeys = view_.window()->focusWidget() == line_;
   line_->hide();
   if (hadKeys) view_.setFocus(Qt::OtherFocusReason);
 }
