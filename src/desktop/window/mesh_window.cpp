@@ -1,6 +1,7 @@
 #include "desktop/window/mesh_window.h"
 
 #include "desktop/elided_label.h"
+#include "desktop/history/history_news.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/mesh_panes.h"
 #include "desktop/window/view_stack.h"
@@ -33,7 +34,9 @@ constexpr int kPermille = 1000;
 
 MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& form,
                        DesktopFrontEnd& frontEnd, std::function<void()> unload, QWidget* parent)
-    : FormWindow(maker, form, std::move(unload), parent), mesh_(form) {
+    : FormWindow(maker, form, std::move(unload), parent),
+      mesh_(form),
+      passStop_(frontEnd.passStop()) {
   setWindowFlags(Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -105,6 +108,7 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   line->addWidget(&maker().label(form.LabelWait, *bar));
   state_ = new QLabel(bar);
   line->addWidget(state_);
+  line->addWidget(makeHistoryNews(*bar));
   progress_ = new QProgressBar(bar);
   progress_->setObjectName(QStringLiteral("MeshProgress"));
   progress_->setAccessibleName(QStringLiteral("Progress"));
@@ -112,6 +116,8 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   progress_->setTextVisible(false);
   progress_->setFixedSize(kProgressWidth, 10);
   line->addWidget(progress_);
+  cancel_ = &passStop_.addButton(*bar);
+  line->addWidget(cancel_);
   return bar;
 }
 
@@ -130,6 +136,11 @@ void MeshWindow::setProgress(std::uint64_t position, std::uint64_t size) {
   if (size < kLarge || state_->text().isEmpty()) return;
   progress_->setValue(static_cast<int>(std::min(position, size) * kPermille / size));
   progress_->show();
+  cancel_->setVisible(passStop_.running());
+}
+
+void MeshWindow::say(const QString& text) {
+  state_->setText(text);
 }
 
 /// Lists would look for an item that begins with the key, and an option would be chosen by a blank;
