@@ -137,7 +137,7 @@ class DesktopFrontEnd : public front::FrontEnd,
   bool okForAll_ = false;
   PassStop passStop_;
   bool hourglass_ = false;
-  bool hourglassBefore_ = false;  ///< the pass that runs
+  bool hourglassBehind_ = false;  ///< the pass that runs
   bool waiting_ = false;
   bool stopped_ = false;
   bool ended_ = false;

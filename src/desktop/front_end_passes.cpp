@@ -11,7 +11,7 @@ namespace norvik::desktop {
 /// What a tool says in the course of a pass counts behind it.
 void DesktopFrontEnd::setHourglass(front::Form&, bool on) {
   if (passStop_.running()) {
-    hourglassBefore_ = on;
+    hourglassBehind_ = on;
   } else {
     showHourglass(on);
   }
@@ -30,14 +30,14 @@ void DesktopFrontEnd::showHourglass(bool on) {
 
 /// A pass that can be ended is seen to run, with or without the tool's own hourglass.
 void DesktopFrontEnd::beginPass() {
-  if (!passStop_.running()) hourglassBefore_ = hourglass_;
+  if (!passStop_.running()) hourglassBehind_ = hourglass_;
   passStop_.begin();
   showHourglass(true);
 }
 
 void DesktopFrontEnd::endPass() {
   passStop_.end();
-  if (!passStop_.running()) showHourglass(hourglassBefore_);
+  if (!passStop_.running()) showHourglass(hourglassBehind_);
 }
 
 /// A tool may call this for each of a million faces. Most of its time belongs to the tool.

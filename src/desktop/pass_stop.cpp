@@ -43,7 +43,7 @@ void PassStop::request() {
 }
 
 void PassStop::check() {
-  if (!requested_) return;
+  if (!requested_ || letsLive_) return;
   stopped_ = true;
   throw front::ToolStopped{};
 }
@@ -59,13 +59,15 @@ bool PassStop::listens() const {
 }
 
 void PassStop::processEvents() {
-  if (!listens()) {
+  const bool lived = std::exchange(letsLive_, true);
+  if (!lived && listens()) {
+    qApp->installEventFilter(this);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(this);
+  } else {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    return;
   }
-  qApp->installEventFilter(this);
-  QCoreApplication::processEvents();
-  qApp->removeEventFilter(this);
+  letsLive_ = lived;
 }
 
 /// A mouse event goes to the window first and then to the widget under it. A button that was

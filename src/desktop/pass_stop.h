@@ -25,7 +25,8 @@ class PassStop : public QObject {
 
   /// Ends the pass that runs, at its next check.
   void request();
-  /// Throws front::ToolStopped once the operator has said so.
+  /// Throws front::ToolStopped once the operator has said so. What an event reads meanwhile is
+  /// no read of the pass.
   void check();
   /// Whether a pass was ended since this was asked last.
   bool takeStopped();
@@ -44,6 +45,7 @@ class PassStop : public QObject {
   std::vector<QPointer<QAbstractButton>> buttons_;
   int running_ = 0;
   bool requested_ = false;
+  bool letsLive_ = false;  ///< events are let through just now
   bool stopped_ = false;
 };
 

@@ -4,6 +4,7 @@
 
 #include "desktop/program_bench.h"
 #include "front/form_obj.h"
+#include "text/line_reader.h"
 
 #include <QAbstractButton>
 #include <QProgressBar>
@@ -192,6 +193,21 @@ TEST_F(PassStopTest, TheScalerIsCancelledInTheMainWindow) {
   dispatcher().raise(opening().TextOBJScale.key, "Enter");
   ASSERT_EQ(asker_.boxes.size(), 1U);
   EXPECT_EQ(asker_.boxes[0].text, " 2 times original.");
+}
+
+TEST_F(PassStopTest, WhatAnEventReadsMeanwhileIsNotEnded) {
+  start(host("large.obj"));
+  opening().TextOBJScale.setText("2");
+  bool read = false;
+  inThePass([&] {
+    program_->frontEnd().passStop().request();
+    text::LineReader other(session().disk, "C:\\large.obj");
+    read = !other.atEnd();
+  });
+  dispatcher().raise(opening().TextOBJScale.key, "Enter");
+  EXPECT_TRUE(read);
+  EXPECT_TRUE(asker_.boxes.empty());
+  EXPECT_TRUE(this->read("large.obj") == before_);
 }
 
 TEST_F(PassStopTest, ABatchIsNotCancelledInTheMiddle) {

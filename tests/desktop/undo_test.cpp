@@ -68,6 +68,7 @@ TEST_F(UndoTest, IsOfferedAfterTheScaler) {
 
 TEST_F(UndoTest, IsOfferedForEachFileOfABatch) {
   start(host("meshes/a.obj"));
+  session().disk.changeFolder("C:\\meshes");
   opening().CheckOBJBatch.setValue(true);
   opening().TextOBJScale.setText("2");
   dispatcher().raise(opening().TextOBJScale.key, "Enter");
