@@ -144,6 +144,14 @@ void DesktopFrontEnd::endRepeats() {
   repeated_.reset();
 }
 
+std::optional<std::size_t> DesktopFrontEnd::offer(const front::FurtherWays& offered) {
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  QStringList ways;
+  for (const std::string& way : offered.ways) ways << shown(way);
+  return asker_.way({.title = shown(offered.title), .text = shownMessage(offered.text)}, ways);
+}
+
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
   const bool there = !folder.empty() && disk_.folderExists(folder);
   return hostName(disk_.hostPath(there ? folder : disk_.currentFolder()));

@@ -8,6 +8,7 @@
 #include "desktop/pass_stop.h"
 #include "desktop/sound.h"
 #include "front/front_end.h"
+#include "front/further_ways.h"
 #include "front/repeated_question.h"
 #include "front/stoppable_pass.h"
 #include "text/disk.h"
@@ -34,6 +35,7 @@ class Stage {
 };
 
 class DesktopFrontEnd : public front::FrontEnd,
+                        public front::FurtherWaysOffer,
                         public front::RepeatedQuestions,
                         public front::PassStopper {
  public:
@@ -73,6 +75,7 @@ class DesktopFrontEnd : public front::FrontEnd,
   void beginPass() override;
   void checkPass() override { passStop_.check(); }
   void endPass() override;
+  std::optional<std::size_t> offer(const front::FurtherWays& offered) override;
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
