@@ -24,7 +24,7 @@ FaultRows meshToolRows();
 FaultRows meshRows();
 FaultRows smallToolRows();
 
-/// All of them, which is the table.
+/// The whole table.
 FaultRows allRows();
 
 /// So many lines that a file of them is written in several pieces.
