@@ -55,6 +55,7 @@ const std::map<std::string, Tested>& testedFiles() {
       {"channels/removal/part_remove.cpp", {"RemovePart", "RemovePartOntoOther", "RemoveParts"}},
       {"channels/removal/scratch_turns.cpp", kScratchOnly},
       {"channels/renaming/rename.cpp", {"RenameMorph", "RenameMorphOntoOther", "RenamePart"}},
+      {"desktop/template_png.cpp", {"text/history_faults_test.cpp"}},  // the disk's own replacement
       {"desktop/window/main_window.cpp", {"text/disk_moves_test.cpp"}},  // the disk's own copy
       {"dials/rename_pass.cpp", {"DialsToFriendly", "DialsReverted"}},
       {"editor/notes.cpp", {"EditorNotes"}},
