@@ -31,6 +31,8 @@ ListFilter::ListFilter(front::ListBox& list, ListView& view, QWidget& parent)
   line->setContentsMargins(0, 0, 0, 0);
   line->addWidget(edit_, 1);
   line->addWidget(count_);
+  // It stands over its list, and so does Tab come to it.
+  setTabOrder(edit_, &view);
   hide();
 
   connect(edit_, &QLineEdit::textChanged, this, [this](const QString& text) {
@@ -48,9 +50,14 @@ void ListFilter::open() {
   count();
 }
 
+void ListFilter::stay() {
+  stays_ = true;
+  show();
+}
+
 void ListFilter::dismiss() {
   edit_->clear();
-  hide();
+  if (!stays_) hide();
   view_.setFocus(Qt::OtherFocusReason);
 }
 
@@ -72,6 +79,7 @@ bool ListFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     switch (static_cast<QKeyEvent*>(event)->key()) {
       case Qt::Key_Escape:
+        if (stays_ && edit_->text().isEmpty()) break;
         dismiss();
         return true;
       case Qt::Key_Return:

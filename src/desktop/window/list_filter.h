@@ -20,6 +20,8 @@ class ListFilter : public QWidget {
 
   /// Shows the line and takes the keys.
   void open();
+  /// Shows the line for good: Escape empties it, and what comes after that is the window's.
+  void stay();
   /// Shows all items again and goes back to the list.
   void dismiss();
 
@@ -36,6 +38,7 @@ class ListFilter : public QWidget {
   ListView& view_;
   QLineEdit* edit_;
   QLabel* count_;
+  bool stays_ = false;
 };
 
 /// Opens the filter in whose part of the window the keys are, else that of a list; none whose list
