@@ -1,6 +1,8 @@
-#include "dial_passes.h"
+// The surgery on dials.
 
+#include "bench_desk.h"
 #include "dials/rename_pass.h"
+#include "pass_groups.h"
 #include "text/line_writer.h"
 
 namespace norvik::bench {
@@ -9,8 +11,6 @@ namespace {
 
 constexpr const char* kLateEntry = "    lToe:1 * 5";
 constexpr const char* kLateDial = "lToe:1*lToeExtra300^ 5@lToeExtra300";
-
-}  // namespace
 
 void reorder(Bench& bench) {
   bench.opening.ListChannelsReorderNewOrder.add(kLateDial);
@@ -101,6 +101,35 @@ void renameDials(Bench& bench) {
 void previewDials(Bench& bench) {
   constexpr std::size_t kRows = 500;
   dials::previewOf(bench.disk, bench.path, dials::Direction::toFriendly, kRows);
+}
+
+/// Both digits are turned over again by the next run.
+void turnFlags(Bench& bench) {
+  for (int i = 0; i < 2; ++i) bench.answers().queueBox(front::Answer::yes);
+  bench.opening.ListActors.add(kLateEntry);
+  bench.opening.ListActors.choose(0);
+  bench.opening.LabelX.clicked.raise();
+  bench.opening.TextForceLimits.setText("lToe");
+  bench.opening.TextForceLimits.key.raise("Enter");
+}
+
+}  // namespace
+
+std::vector<Pass> dialPasses() {
+  using enum Kind;
+  using enum Figure;
+  return {pass("reorder", rewrite, plain, reorder),
+          pass("hidden dials, list and change", copy, plain, listAndHideDials),
+          pass("mirror, reading twice", copy, plain, mirrorMorph),
+          pass("ERC unique name", rewrite, plain, makeUnique),
+          pass("tracking speed, reading twice", copy, plain, changeTrackingSpeed),
+          pass("joints, extract and transfer", copy, plain, transferJoints),
+          pass("bend, off and on", copy, plain, bendPart),
+          pass("translation dial and limits", copy, plain, turnFlags),
+          pass("extract of a morph", read, plain, extractMorph),
+          pass("IK chains", rewrite, replaced, removeIkChains),
+          pass("dials renamed", rewrite, replaced, renameDials),
+          pass("dials renamed, preview", read, plain, previewDials)};
 }
 
 }  // namespace norvik::bench

@@ -20,12 +20,15 @@ double median(std::vector<double> numbers) {
 
 /// A pass that replaces its file gets another name for it, so that the next run finds the same
 /// file, and that no time goes into the freeing of an old one.
-constexpr const char* kWorkFile = "work.cr2";
+std::string workFile(const std::string& original) {
+  return "work" + original.substr(original.rfind('.'));
+}
 
 void clear(const std::string& folder) {
-  for (const char* made : {"cp.out", "sed.out", "f.new", "Chop.doc", "saved.cr2", "copied.cr2",
-                           "Norvik/cr2temp.txt", "Norvik/SaveMorph.txt", "Norvik/InsertMorph.txt",
-                           "figureNew.pz2", "mat.pz2", "Norvik/Mor.txt", "Norvik/Combine.pz2"}) {
+  for (const char* made :
+       {"cp.out", "tool.out", "f.new", "Chop.doc", "saved.cr2", "copied.cr2", "Norvik/cr2temp.txt",
+        "Norvik/SaveMorph.txt", "Norvik/InsertMorph.txt", "figureNew.pz2", "mat.pz2", "work.cam",
+        "work.bak", "Norvik/Mor.txt", "Norvik/Combine.pz2"}) {
     fs::remove(folder + "/" + made);
   }
 }
@@ -34,17 +37,22 @@ void clear(const std::string& folder) {
 
 Result measure(const Pass& pass, const Setup& setup) {
   const std::string original = setup.folder + "/" + fileOf(pass.figure);
-  const std::string work = setup.folder + "/" + kWorkFile;
-  const bool inPlace = pass.figure == Figure::oneBlank || pass.figure == Figure::blanks;
+  const bool inPlace = isReplaced(pass.figure);
+  const std::string file = inPlace ? workFile(original) : fileOf(pass.figure);
+  const std::string work = setup.folder + "/" + workFile(original);
   const std::vector<std::string> cp{"cp", original, setup.folder + "/cp.out"};
-  const std::vector<std::string> own{setup.self, "--pass", pass.name, setup.folder,
-                                     inPlace ? kWorkFile : fileOf(pass.figure)};
+  const std::vector<std::string> own{setup.self, "--pass", pass.name, setup.folder, file};
   std::vector<std::string> tool;
   std::string toolOutput = "/dev/null";
   if (pass.kind == Kind::read) tool = {"wc", "-l", original};
   if (pass.kind == Kind::substitution) {
     tool = {"sed", "s/textureMap .*/textureMap \"C:Poser:Runtime:textures:new.bmp\"\\r/", original};
-    toolOutput = setup.folder + "/sed.out";
+    toolOutput = setup.folder + "/tool.out";
+  }
+  if (pass.kind == Kind::arithmetic) {
+    tool = {"awk", "/^v /{printf \"v %.6f %.6f %.6f\\n\", $2*2, $3*2, $4*2; next} !/^vn/",
+            original};
+    toolOutput = setup.folder + "/tool.out";
   }
 
   std::vector<double> times;

@@ -8,6 +8,7 @@
 #include "desktop/words.h"
 #include "front/form.h"
 #include "front/note_entry.h"
+#include "lifecycle/addresses.h"
 #include "text/columns.h"
 
 #include <QApplication>
@@ -302,6 +303,8 @@ bool DesktopFrontEnd::drawTile(front::Form&, int left, int top) {
 
 void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
                                    std::string_view folder) {
+  // A deployment may have a page of its own; else the guide is here.
+  if (target == lifecycle::kManualPage.standard && showGuide_ && showGuide_()) return;
   if (openWithDesktop(disk_, target, folder)) return;
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);

@@ -45,6 +45,9 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   using PassTextListener = std::function<void(std::string_view text)>;
   void setPassTextListener(PassTextListener listener) { showPassText_ = std::move(listener); }
 
+  /// Who shows the guide where the program's own page of help is asked for; false if it cannot.
+  void setGuide(std::function<bool()> guide) { showGuide_ = std::move(guide); }
+
   /// Does what ends in an open dialog, and answers the dialog with a path: a file that is dropped
   /// on the window takes the way of a chosen one.
   void withChosen(const std::string& path, const std::function<void()>& act);
@@ -115,6 +118,7 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   Stage* stage_ = nullptr;
   ResultListener tellOfResult_;
   PassTextListener showPassText_;
+  std::function<bool()> showGuide_;
   Sound sound_;
   std::unique_ptr<QPrinter> printer_;
   std::optional<std::string> chosen_;

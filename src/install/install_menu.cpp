@@ -125,7 +125,7 @@ void startInstalling(front::Session& session, InstallerView& view) {
   view.open(path);
   try {
     ListCR2Files(session, path);
-  } catch (const text::FileError&) {
+  } catch (...) {
     view.close();
     throw;
   }
@@ -158,6 +158,8 @@ void InstallerView::close() {
   // Another file may have been opened meanwhile.
   front::Label& file = opening_.LabelOBJFileName;
   if (file.caption() == cr2_) file.setCaption(objFile_);
+  // Beside a mesh nothing of the figure is on view.
+  if (file.visible()) before_ = {};
   before_.restore();
 }
 

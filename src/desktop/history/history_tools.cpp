@@ -4,7 +4,6 @@
 #include "desktop/words.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -38,11 +37,9 @@ void HistoryTools::addToMenu(QMainWindow& window) {
 }
 
 void HistoryTools::addToStatusBar(QMainWindow& window) {
-  news_ = new QLabel(window.statusBar());
+  news_ = new LinkLine(window.statusBar());
   news_->setObjectName(QStringLiteral("HistoryNews"));
   news_->setAccessibleName(QStringLiteral("What was replaced last"));
-  news_->setTextFormat(Qt::RichText);
-  news_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   window.statusBar()->addPermanentWidget(news_);
   QObject::connect(news_, &QLabel::linkActivated, &window, [this] {
     // The restoring tells its own news.
@@ -55,7 +52,7 @@ void HistoryTools::tell(const text::HistoryEntry& entry) {
   last_ = entry.number;
   const QString name = shown(text::fileTitle(entry.path)).toHtmlEscaped();
   const QString what = shown(text::lossName(entry.what));
-  news_->setText(entry.number == 0
+  news_->setLine(entry.number == 0
                      ? QStringLiteral("%1 %2; no earlier version was kept").arg(name, what)
                      : QStringLiteral("%1 %2 &nbsp;<a href=\"undo\" style=\"color: %3\">Undo</a>")
                            .arg(name, what, accentOf(news_->palette()).name()));

@@ -3,12 +3,12 @@
 
 #include "desktop/history/history_window.h"
 #include "desktop/history/restorer.h"
+#include "desktop/link_line.h"
 
 #include <QPointer>
 
 #include <cstdint>
 
-class QLabel;
 class QMainWindow;
 
 namespace norvik::desktop {
@@ -29,7 +29,7 @@ class HistoryTools {
   void showWindow(QMainWindow& window);
 
   Restorer restorer_;
-  QPointer<QLabel> news_;
+  QPointer<LinkLine> news_;
   QPointer<HistoryWindow> list_;
   std::uint64_t last_ = 0;  ///< the entry that the link puts back
 };

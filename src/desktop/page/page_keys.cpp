@@ -195,12 +195,7 @@ void PageView::moveTo(std::size_t place, bool select) {
   caret_ = place;
   if (!select) anchor_ = place;
   if (hooks_.placeCaret) hooks_.placeCaret(selectionStart(), selectionEnd() - selectionStart());
-  showCaret();
-  restartBlink();
-  bracket_.reset();
-  otherBracket_.reset();
-  look_.start();
-  viewport()->update();
+  presentCaret();
 }
 
 void PageView::selectAll() {

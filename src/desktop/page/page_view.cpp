@@ -147,6 +147,11 @@ void PageView::follow() {
     }
   }
   if (otherText) setUpScrollBars();
+  presentCaret();
+}
+
+/// Brings the caret into view; its brackets are looked for when it rests.
+void PageView::presentCaret() {
   showCaret();
   restartBlink();
   bracket_.reset();

@@ -80,6 +80,7 @@ class PageView : public QAbstractScrollArea {
   QRect caretRect() const;
   void setUpFont();
   void setUpScrollBars();
+  void presentCaret();
   void showCaret();
   void restartBlink();
   void lookForBrackets();

@@ -2,6 +2,7 @@
 
 #include "desktop/elided_label.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/mesh_panes.h"
 #include "desktop/window/view_stack.h"
 #include "desktop/words.h"
@@ -19,6 +20,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -35,6 +37,12 @@ bool typesInto(const QWidget* widget) {
   return qobject_cast<const QLineEdit*>(widget) != nullptr ||
          qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
          qobject_cast<const QAbstractSpinBox*>(widget) != nullptr;
+}
+
+/// Whether Space ticks a row there.
+bool takesTicks(const QObject* watched) {
+  const auto* rows = qobject_cast<const QAbstractItemView*>(watched);
+  return rows != nullptr && rows->currentIndex().flags().testFlag(Qt::ItemIsUserCheckable);
 }
 
 }  // namespace
@@ -65,6 +73,8 @@ MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& fo
   column->addLayout(middle, 1);
   column->addWidget(makeStatus(session, form));
   keepTheKeys();
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { openFilter(*this); });
   setBusy(false);
 }
 
@@ -162,7 +172,7 @@ bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
     option->click();
     return true;
   }
-  const bool ofTheView = key == "Space" || key.size() == 1;
+  const bool ofTheView = (key == "Space" && !takesTicks(watched)) || key.size() == 1;
   return ofTheView ? deliverKey(key) : FormWindow::eventFilter(watched, event);
 }
 

@@ -2,6 +2,7 @@
 
 #include "figure/embedded_geometry.h"
 #include "text/columns.h"
+#include "text/field_search.h"
 
 namespace norvik::obj {
 
@@ -86,8 +87,7 @@ class NewMesh {
   void add(std::string_view entry) {
     text::LineReader in(session_.disk, session_.opening.LabelFileNameForEditor.caption());
     try {
-      while (!text::holds(in.field(), entry)) {
-      }
+      text::passFieldHolding(in, entry);
       figure::copyEmbeddedGeometry(in, out_);
     } catch (const text::FileError& error) {
       if (error.number() == text::ErrorNumber::inputPastEnd) finish();
