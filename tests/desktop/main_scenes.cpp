@@ -87,13 +87,15 @@ std::vector<Scene> mainScenes() {
            hand.opening().ListOBJExtract.add("prop_1");
            hand.opening().ListOBJExtract.show();
            hand.opening().FrameExtractObj.show();
+           hand.opening().OptionSepObjFiles.show();
+           hand.opening().OptionOneObjFile.show();
          });
        }},
       {"Mesh", "Opening", kMesh, kStays, [](Hand&) {}},
       {"ScaledMesh", "Opening", kMesh, kStays,
        [](Hand& hand) { hand.click(hand.opening().PictureScaleObj); }},
       {"CondensedMesh", "Opening", kMesh, kStays,
-       [](Hand& hand) { hand.run([&] { hand.opening().FrameMash.show(); }); }},
+       [](Hand& hand) { hand.click(hand.opening().PictureMash); }},
       {"Installer", "Opening", kFigure, kStays, [](Hand& hand) { hand.stageInstallation(); }},
   };
 }

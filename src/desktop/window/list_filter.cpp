@@ -45,8 +45,6 @@ ListFilter::ListFilter(Narrowed narrowed, QWidget& parent)
   line->setContentsMargins(0, 0, 0, 0);
   line->addWidget(edit_, 1);
   line->addWidget(count_);
-  // It stands over its list, and so does Tab come to it.
-  setTabOrder(edit_, &view);
   setVisible(!view.isHidden());
 
   connect(edit_, &QLineEdit::textChanged, this, [this](const QString& text) {
@@ -84,6 +82,13 @@ void ListFilter::followView(const QEvent& event) {
   if (event.type() != QEvent::HideToParent) return;
   edit_->clear();
   hide();
+}
+
+/// It stands over its list, and so does Tab come to it. Said once the window has all its controls:
+/// of two alone each comes before the other.
+void ListFilter::showEvent(QShowEvent* event) {
+  setTabOrder(edit_, &narrowed_.view);
+  QWidget::showEvent(event);
 }
 
 bool ListFilter::eventFilter(QObject* watched, QEvent* event) {

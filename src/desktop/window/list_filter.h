@@ -44,6 +44,7 @@ class ListFilter : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void followView(const QEvent& event);
