@@ -188,7 +188,8 @@ void ViewStack::tellWhatToDo() {
   const bool blank = !seen && (!read || !form_.PictureObjViewer2.visible());
   hint_->setVisible(blank && form_.LabelView.visible() && !form_.ImageBoss.visible());
   QPalette ink = palette();
-  if (form_.PictureObjViewer2.visible()) ink.setColor(QPalette::WindowText, QColor("#6c7684"));
+  // The 3D view is white in any theme.
+  if (form_.PictureObjViewer2.visible()) ink.setColor(hint_->foregroundRole(), QColor("#6c7684"));
   hint_->setPalette(ink);
   hint_->setText(read ? QStringLiteral("Space spins the mesh, View draws it again.")
                       : QStringLiteral("View reads the mesh and draws it."));
