@@ -197,7 +197,7 @@ constexpr std::array kPlaces = std::to_array<GuidePlace>({
     {kMesh, "CommandListGroups", kNames},
     {kMesh, "CommandListMats", kNames},
     {kMesh, "ListGroups", kNames},
-    {kMesh, "ListMats", kNames},
+    {kMesh, "ListMaterials", kNames},
     {kMesh, "CheckSaveGroups", kNames},
     {kMesh, "LabelRichRename", kNames},
     {kMesh, "TextGrpRename", kNames},
@@ -233,6 +233,8 @@ constexpr std::array kPlaces = std::to_array<GuidePlace>({
     {"FormPZ2", "", "pose-files.md"},
     {"FormPZ2Combine", "", "weld-poses.md"},
     {"FormPhi", "", "phi-files.md#look-at-one-change-it-print-it"},
+    {"FormPhi", "MenuPrint", "phi-files.md#look-at-one-change-it-print-it"},
+    {"FormPhi", "MenuPhiHelp", "phi-files.md"},
     {"FormRemoveFiles", "", "file-tools.md#remove-and-back-up"},
     {"FormRenumber", "", "file-tools.md#renumber-a-sequence"},
     {"FormScale", "", "small-tools.md#make-graph-paper"},
@@ -240,6 +242,7 @@ constexpr std::array kPlaces = std::to_array<GuidePlace>({
     {"FormViewer", "", "small-tools.md#view-a-map"},
     {"Magnifier", "", "small-tools.md#look-closely"},
     {"Renamer", "", "dial-names.md"},
+    {"Renamer", "MenuHelp", "dial-names.md"},
 });
 
 constexpr std::array kSigns = std::to_array<GuidePlace>({

@@ -71,7 +71,7 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   frontEnd_.setResultListener([this](const front::FinishedFile& file) { tellOf(file); });
   frontEnd_.setPassTextListener([this](std::string_view text) { status_->say(shown(text)); });
   makeCentre();
-  status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
+  status_ = std::make_unique<StatusLine>(maker_, opening_, frontEnd_.passStop(), *statusBar());
   bindTheRest();
   listenToMenus();
   resize(1080, 760);

@@ -4,14 +4,19 @@
 #include "desktop/theme.h"
 #include "text/number_text.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
 
 namespace norvik::desktop {
 
-StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
-    : state_(new QLabel(&bar)), result_(new LinkLine(&bar)), progress_(new QProgressBar(&bar)) {
+StatusLine::StatusLine(Maker& maker, front::Opening& opening, PassStop& passStop, QStatusBar& bar)
+    : state_(new QLabel(&bar)),
+      result_(new LinkLine(&bar)),
+      progress_(new QProgressBar(&bar)),
+      passStop_(passStop),
+      cancel_(passStop.addButton(bar)) {
   constexpr int kPermille = 1000;
   constexpr int kWidth = 180;
   state_->setObjectName(QStringLiteral("StatusText"));
@@ -36,6 +41,8 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
   progress_->setFixedSize(kWidth, 10);
   progress_->hide();
   bar.addPermanentWidget(progress_);
+  bar.addPermanentWidget(&cancel_);
+  cancel_.hide();
 
   auto& size = maker.label(opening.LabelFileSize, bar);
   size.setAccessibleName(QStringLiteral("File size"));
@@ -86,6 +93,7 @@ void StatusLine::setProgress(std::uint64_t position, std::uint64_t size) {
   if (size < kLarge) return;
   progress_->setValue(static_cast<int>(std::min(position, size) * 1000 / size));
   progress_->show();
+  cancel_.setVisible(passStop_.running());
 }
 
 }  // namespace norvik::desktop
