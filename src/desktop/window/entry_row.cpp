@@ -40,7 +40,11 @@ class Row {
     });
   }
 
-  void add(front::Control& control) { line_->addWidget(maker_.make(control, *widget_)); }
+  void add(front::Control& control, const char* name = "") {
+    QWidget* widget = maker_.make(control, *widget_);
+    widget->setAccessibleName(QString::fromLatin1(name));
+    line_->addWidget(widget);
+  }
 
   void add(front::Frame& frame, std::initializer_list<front::OptionButton*> options) {
     auto& group = maker_.frame(frame, *widget_);
@@ -72,7 +76,7 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   constexpr int kNumber = 90;
   Row row(maker, parent);
   row.add(opening.TextOBJScale, "Scale", kNumber);
-  row.add(opening.SliderOBJScale);
+  row.add(opening.SliderOBJScale, "Scale");
   row.add(opening.CheckOBJBatch);
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
   row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
