@@ -52,8 +52,6 @@ void ScaleNote::begin() {
 }
 
 void ScaleNote::readOn() {
-  // A tool that lets the window live has the machine to itself.
-  if (!maker_.dispatcher().open()) return;
   bool more = false;
   if (!text::ignoringErrors([&] { more = forecast_->readOn(); })) return forget();
   if (more) return;
