@@ -62,8 +62,9 @@ void offerResult(front::Session& session) {
   if (answer != front::Answer::yes) return;
   front::CommonDialog& dialog = opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), proposed, {},
-                   {"Save the figure with the copied channels", front::kFigureFilter}))
+                   {"Save the figure with the copied channels", front::kFigureFilter})) {
     return;
+  }
   session.disk.replace(opening.inProgramFolder(kMergedFile), dialog.fileName());
 }
 

@@ -8,6 +8,7 @@
 #include "desktop/words.h"
 #include "front/form.h"
 #include "front/note_entry.h"
+#include "lifecycle/addresses.h"
 #include "text/columns.h"
 
 #include <QApplication>
@@ -143,6 +144,14 @@ void DesktopFrontEnd::endRepeats() {
   repeated_.reset();
 }
 
+std::optional<std::size_t> DesktopFrontEnd::offer(const front::FurtherWays& offered) {
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  QStringList ways;
+  for (const std::string& way : offered.ways) ways << shown(way);
+  return asker_.way({.title = shown(offered.title), .text = shownMessage(offered.text)}, ways);
+}
+
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
   const bool there = !folder.empty() && disk_.folderExists(folder);
   return hostName(disk_.hostPath(there ? folder : disk_.currentFolder()));
@@ -274,6 +283,8 @@ bool DesktopFrontEnd::drawTile(front::Form&, int left, int top) {
 
 void DesktopFrontEnd::openDocument(std::string_view, std::string_view target,
                                    std::string_view folder) {
+  // A deployment may have a page of its own; else the guide is here.
+  if (target == lifecycle::kManualPage.standard && showGuide_ && showGuide_()) return;
   if (openWithDesktop(disk_, target, folder)) return;
   dispatcher_.sync();
   const ArrowMeanwhile arrow(hourglass_);

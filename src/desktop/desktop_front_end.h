@@ -8,6 +8,7 @@
 #include "desktop/pass_stop.h"
 #include "desktop/sound.h"
 #include "front/front_end.h"
+#include "front/further_ways.h"
 #include "front/repeated_question.h"
 #include "front/stoppable_pass.h"
 #include "text/disk.h"
@@ -34,6 +35,7 @@ class Stage {
 };
 
 class DesktopFrontEnd : public front::FrontEnd,
+                        public front::FurtherWaysOffer,
                         public front::RepeatedQuestions,
                         public front::PassStopper {
  public:
@@ -48,6 +50,9 @@ class DesktopFrontEnd : public front::FrontEnd,
   /// Who shows the text of a pass.
   using PassTextListener = std::function<void(std::string_view text)>;
   void setPassTextListener(PassTextListener listener) { showPassText_ = std::move(listener); }
+
+  /// Who shows the guide where the program's own page of help is asked for; false if it cannot.
+  void setGuide(std::function<bool()> guide) { showGuide_ = std::move(guide); }
 
   /// Does what ends in an open dialog, and answers the dialog with a path: a file that is dropped
   /// on the window takes the way of a chosen one.
@@ -70,6 +75,7 @@ class DesktopFrontEnd : public front::FrontEnd,
   void beginPass() override;
   void checkPass() override { passStop_.check(); }
   void endPass() override;
+  std::optional<std::size_t> offer(const front::FurtherWays& offered) override;
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
@@ -126,6 +132,7 @@ class DesktopFrontEnd : public front::FrontEnd,
   Stage* stage_ = nullptr;
   ResultListener tellOfResult_;
   PassTextListener showPassText_;
+  std::function<bool()> showGuide_;
   Sound sound_;
   std::unique_ptr<QPrinter> printer_;
   std::optional<std::string> chosen_;

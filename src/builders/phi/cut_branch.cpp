@@ -72,8 +72,9 @@ void cutBranch(front::Session& session, FormTree& form) {
 
   front::CommonDialog& dialog = opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), mesh, {},
-                   {"Save the mesh without the branch", front::kMeshFilter}))
+                   {"Save the mesh without the branch", front::kMeshFilter})) {
     return;
+  }
   text::ignoringErrors([&] { store(session, scratch, dialog.fileName()); });
   opening.LabelOBJFileName.setCaption(dialog.fileName());
   session.unload(form);

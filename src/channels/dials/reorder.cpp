@@ -149,8 +149,9 @@ void reorder(front::Session& session) {
   const front::ResultOffer offer(session, scratch, opening.OpenedPath);
   front::CommonDialog& dialog = opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), opening.OpenedPath, {},
-                   {"Save the figure with its channels in the new order", front::kFigureFilter}))
+                   {"Save the figure with its channels in the new order", front::kFigureFilter})) {
     return;
+  }
   session.disk.replace(scratch, dialog.fileName());
 }
 

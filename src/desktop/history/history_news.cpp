@@ -1,15 +1,13 @@
 #include "desktop/history/history_news.h"
 
-#include <QLabel>
+#include "desktop/link_line.h"
 
 namespace norvik::desktop {
 
-QLabel* makeHistoryNews(QWidget& parent) {
-  auto* news = new QLabel(&parent);
+LinkLine* makeHistoryNews(QWidget& parent) {
+  auto* news = new LinkLine(&parent);
   news->setObjectName(QString::fromLatin1(kHistoryNews));
   news->setAccessibleName(QStringLiteral("What was replaced last"));
-  news->setTextFormat(Qt::RichText);
-  news->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   return news;
 }
 

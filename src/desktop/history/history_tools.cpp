@@ -1,11 +1,11 @@
 #include "desktop/history/history_tools.h"
 
 #include "desktop/history/history_news.h"
+#include "desktop/link_line.h"
 #include "desktop/theme.h"
 #include "desktop/words.h"
 
 #include <QAction>
-#include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -74,7 +74,7 @@ void HistoryTools::tell(const text::HistoryEntry& entry) {
 /// A window that is there by now and was not the last time is followed from now on.
 void HistoryTools::tellAll(const QString& news) {
   for (QLabel* label : window_->findChildren<QLabel*>(QString::fromLatin1(kHistoryNews))) {
-    label->setText(news);
+    if (auto* line = dynamic_cast<LinkLine*>(label)) line->setLine(news);
     if (label->property(kFollowed).toBool()) continue;
     label->setProperty(kFollowed, true);
     QObject::connect(label, &QLabel::linkActivated, window_,

@@ -2,7 +2,9 @@
 
 #include "desktop/elided_label.h"
 #include "desktop/history/history_news.h"
+#include "desktop/link_line.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/mesh_panes.h"
 #include "desktop/window/view_stack.h"
 #include "desktop/words.h"
@@ -17,6 +19,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -29,6 +32,12 @@ namespace {
 
 constexpr int kSideWidth = 380;
 constexpr int kPermille = 1000;
+
+/// Whether Space ticks a row there.
+bool takesTicks(const QObject* watched) {
+  const auto* rows = qobject_cast<const QAbstractItemView*>(watched);
+  return rows != nullptr && rows->currentIndex().flags().testFlag(Qt::ItemIsUserCheckable);
+}
 
 }  // namespace
 
@@ -60,6 +69,8 @@ MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& fo
   column->addLayout(middle, 1);
   column->addWidget(makeStatus(session, form));
   keepTheKeys();
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { openFilter(*this); });
   setBusy(false);
 }
 
@@ -164,7 +175,7 @@ bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return FormWindow::eventFilter(watched, event);
   if (uncover(*static_cast<QKeyEvent*>(event))) return true;
   const std::string key = keyName(*static_cast<QKeyEvent*>(event));
-  const bool ofTheView = key == "Space" || key.size() == 1;
+  const bool ofTheView = (key == "Space" && !takesTicks(watched)) || key.size() == 1;
   return ofTheView ? deliverKey(key) : FormWindow::eventFilter(watched, event);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/window/status_line.h"
 
+#include "desktop/link_line.h"
 #include "desktop/theme.h"
 #include "text/number_text.h"
 
@@ -12,7 +13,7 @@ namespace norvik::desktop {
 
 StatusLine::StatusLine(Maker& maker, front::Opening& opening, PassStop& passStop, QStatusBar& bar)
     : state_(new QLabel(&bar)),
-      result_(new QLabel(&bar)),
+      result_(new LinkLine(&bar)),
       progress_(new QProgressBar(&bar)),
       passStop_(passStop),
       cancel_(passStop.addButton(bar)) {
@@ -23,8 +24,6 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, PassStop& passStop
   bar.addWidget(state_);
   result_->setObjectName(QStringLiteral("Result"));
   result_->setAccessibleName(QStringLiteral("What the last tool has left"));
-  result_->setTextFormat(Qt::RichText);
-  result_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   // A long line is cut short, and its tip tells all of it: the window stays as narrow as it may be.
   result_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   bar.addWidget(result_, 1);
@@ -75,13 +74,13 @@ void StatusLine::offer(const QString& text, const QString& tip, std::vector<Resu
     line += QStringLiteral(" &nbsp;<a href=\"%1\" style=\"color: %2\">%3</a>")
                 .arg(QString::number(i), colour, actions_[i].name.toHtmlEscaped());
   }
-  result_->setText(line);
+  result_->setLine(line);
   result_->setToolTip(tip);
 }
 
 void StatusLine::withdraw() {
   actions_.clear();
-  result_->clear();
+  result_->setLine({});
   result_->setToolTip(QString());
 }
 

@@ -16,6 +16,8 @@ class QStatusBar;
 
 namespace norvik::desktop {
 
+class LinkLine;
+
 /// What can be done with a result: the link's text, and what it does.
 struct ResultAction {
   QString name;
@@ -41,7 +43,7 @@ class StatusLine {
 
  private:
   QLabel* state_;
-  QLabel* result_;
+  LinkLine* result_;
   std::vector<ResultAction> actions_;
   QProgressBar* progress_;
   PassStop& passStop_;
