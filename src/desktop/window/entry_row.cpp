@@ -50,7 +50,7 @@ class Row {
     auto& group = maker_.frame(frame, *widget_);
     group.setFlat(true);
     auto* inside = new QHBoxLayout(&group);
-    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setContentsMargins(8, 2, 8, 2);
     for (front::OptionButton* option : options) inside->addWidget(maker_.make(*option, group));
     line_->addWidget(&group);
   }
@@ -79,12 +79,10 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   row.add(opening.SliderOBJScale, "Scale");
   row.add(opening.CheckOBJBatch);
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
-  row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
   row.addBelow(*new ScaleNote(maker, opening, row.widget()));
   QWidget* widget = row.finish();
-  maker.showWhileAny(*widget,
-                     {&opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
-                      &opening.FrameMash, &opening.FrameExtractObj});
+  maker.showWhileAny(*widget, {&opening.TextOBJScale, &opening.SliderOBJScale,
+                               &opening.CheckOBJBatch, &opening.FrameMash});
   return widget;
 }
 

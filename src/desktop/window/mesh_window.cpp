@@ -136,6 +136,10 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   progress_->setFixedSize(kProgressWidth, 10);
   line->addWidget(progress_);
   cancel_ = &passStop_.addButton(*bar);
+  // The views keep their size when it comes and goes.
+  QSizePolicy policy = cancel_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  cancel_->setSizePolicy(policy);
   line->addWidget(cancel_);
   return bar;
 }
