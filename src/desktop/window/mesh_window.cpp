@@ -157,20 +157,28 @@ void MeshWindow::keepTheKeys() {
 
 bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return FormWindow::eventFilter(watched, event);
-  if (uncover(*static_cast<QKeyEvent*>(event))) return true;
+  const auto& pressed = *static_cast<QKeyEvent*>(event);
+  if (uncover(pressed) || unmark(pressed)) return true;
   const std::string key = keyName(*static_cast<QKeyEvent*>(event));
   const bool ofTheView = (key == "Space" && !takesTicks(watched)) || key.size() == 1;
   return ofTheView ? deliverKey(key) : FormWindow::eventFilter(watched, event);
 }
 
 void MeshWindow::keyPressEvent(QKeyEvent* event) {
-  if (!uncover(*event)) FormWindow::keyPressEvent(event);
+  if (!uncover(*event) && !unmark(*event)) FormWindow::keyPressEvent(event);
 }
 
 /// The work comes back from under the boss's pictures.
 bool MeshWindow::uncover(const QKeyEvent& event) {
   if (event.key() != Qt::Key_Escape || !mesh_.ImageBoss.visible()) return false;
   maker().dispatcher().raise(mesh_.ImageBoss.clicked);
+  return true;
+}
+
+bool MeshWindow::unmark(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Escape || !mesh_.Mark) return false;
+  const front::MarkWanted again{.materials = mesh_.Mark->materials, .name = mesh_.Mark->name};
+  maker().dispatcher().raise(mesh_.markWanted, again);
   return true;
 }
 
