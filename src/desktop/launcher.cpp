@@ -102,8 +102,9 @@ bool runProgramToEnd(const text::Disk& disk, std::string_view program,
   for (const std::string& argument : arguments) {
     // The loader's programs have drives of their own, on which Z: is all of the host.
     QString path = hostPathOf(disk, shown(argument));
-    if (ofTheFigures)
+    if (ofTheFigures) {
       path = QStringLiteral("Z:") + path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    }
     words << path;
   }
   // It goes with the program, not with the wait: one that nobody waits for runs on.
@@ -132,7 +133,8 @@ bool openWithDesktop(const text::Disk& disk, std::string_view target, std::strin
 
 QString guideFolder() {
   const QDir program(QCoreApplication::applicationDirPath());
-  for (const char* const place : {"../share/doc/norvik", "../../docs"}) {
+  // Of an installation, beside a build of the source, and of the programs deep in that build.
+  for (const char* const place : {"../share/doc/norvik", "../../docs", "../../../../docs"}) {
     const QString folder = QDir::cleanPath(program.filePath(QString::fromLatin1(place)));
     if (QFileInfo::exists(folder + QStringLiteral("/window.md"))) return folder;
   }

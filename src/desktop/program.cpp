@@ -35,9 +35,11 @@ Program::Program(const Options& options, Asker& asker)
   windows_ = std::make_unique<Windows>(dispatcher_, workbench_->session(), *frontEnd_, system);
   historyTools_ = std::make_unique<HistoryTools>(
       Restorer(dispatcher_, workbench_->session(), *frontEnd_, asker), windows_->mainWindow());
+  guide_ = std::make_unique<Guide>(*frontEnd_, windows_->mainWindow());
   host_.setPump([this](const PumpingHost::Progress& progress) {
     windows_->breathe(progress.position, progress.size);
   });
+  host_.setCheck([this] { frontEnd_->passStop().check(); });
 }
 
 Program::~Program() = default;

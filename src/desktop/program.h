@@ -4,6 +4,7 @@
 #include "desktop/asker.h"
 #include "desktop/desktop_front_end.h"
 #include "desktop/dispatcher.h"
+#include "desktop/guide/guide.h"
 #include "desktop/history/history_tools.h"
 #include "desktop/options.h"
 #include "desktop/pumping_host.h"
@@ -45,6 +46,7 @@ class Program {
   std::unique_ptr<workbench::Workbench> workbench_;
   std::unique_ptr<Windows> windows_;
   std::unique_ptr<HistoryTools> historyTools_;
+  std::unique_ptr<Guide> guide_;
 };
 
 }  // namespace norvik::desktop

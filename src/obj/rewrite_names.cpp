@@ -1,5 +1,6 @@
 #include "obj/rewrite_names.h"
 
+#include "front/stoppable_pass.h"
 #include "obj/name_side.h"
 #include "obj/pending_renames.h"
 #include "obj/save_result.h"
@@ -76,14 +77,14 @@ void rewriteNames(Workshop& workshop) {
   const std::string result = session.opening.inProgramFolder(kResult);
   const std::string merged = session.opening.inProgramFolder(kMerged);
   session.hourglass(true);
-  {
-    text::RewritePass pass(session.disk, source, result);
-    renameInto(workshop.form, pass);
-  }
-  {
+  front::runStoppable(session.front, [&] {
+    {
+      text::RewritePass pass(session.disk, source, result);
+      renameInto(workshop.form, pass);
+    }
     text::RewritePass pass(session.disk, result, merged);
     mergeInto(pass);
-  }
+  });
   session.disk.replace(merged, result);
   session.hourglass(false);
   saveResult(session, result, source, {"Save the mesh with its new names as", front::kMeshFilter});

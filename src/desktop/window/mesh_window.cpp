@@ -1,6 +1,8 @@
 #include "desktop/window/mesh_window.h"
 
 #include "desktop/elided_label.h"
+#include "desktop/history/history_news.h"
+#include "desktop/link_line.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/list_filter.h"
 #include "desktop/window/mesh_panes.h"
@@ -41,7 +43,9 @@ bool takesTicks(const QObject* watched) {
 
 MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& form,
                        DesktopFrontEnd& frontEnd, std::function<void()> unload, QWidget* parent)
-    : FormWindow(maker, form, std::move(unload), parent), mesh_(form) {
+    : FormWindow(maker, form, std::move(unload), parent),
+      mesh_(form),
+      passStop_(frontEnd.passStop()) {
   setWindowFlags(Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -115,6 +119,7 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   line->addWidget(&maker().label(form.LabelWait, *bar));
   state_ = new QLabel(bar);
   line->addWidget(state_);
+  line->addWidget(makeHistoryNews(*bar));
   progress_ = new QProgressBar(bar);
   progress_->setObjectName(QStringLiteral("MeshProgress"));
   progress_->setAccessibleName(QStringLiteral("Progress"));
@@ -122,6 +127,8 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   progress_->setTextVisible(false);
   progress_->setFixedSize(kProgressWidth, 10);
   line->addWidget(progress_);
+  cancel_ = &passStop_.addButton(*bar);
+  line->addWidget(cancel_);
   return bar;
 }
 
@@ -140,6 +147,11 @@ void MeshWindow::setProgress(std::uint64_t position, std::uint64_t size) {
   if (size < kLarge || state_->text().isEmpty()) return;
   progress_->setValue(static_cast<int>(std::min(position, size) * kPermille / size));
   progress_->show();
+  cancel_->setVisible(passStop_.running());
+}
+
+void MeshWindow::say(const QString& text) {
+  state_->setText(text);
 }
 
 /// Lists would look for an item that begins with the key, and an option would be chosen by a blank;
