@@ -60,12 +60,26 @@ QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, con
   return *page;
 }
 
+/// A name that is clicked is marked in the views.
+void letMark(Maker& maker, front::FormOBJ& form, const Side& side, NameListing& listing) {
+  const bool materials = side.kind == NameKind::material;
+  listing.setPointedAt([&maker, &form, materials](const std::string& name) {
+    maker.dispatcher().raise(form.markWanted,
+                             front::MarkWanted{.materials = materials, .name = name});
+  });
+  maker.watch({&form.PictureStore, &form.ListGroups, &side.listing}, [&form, materials, &listing] {
+    const bool here = form.Mark && form.Mark->materials == materials;
+    listing.showMarked(here ? &form.Mark->name : nullptr);
+  });
+}
+
 QVBoxLayout* makeSide(Maker& maker, front::Session& session, front::FormOBJ& form, const Side& side,
                       QWidget& parent) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   const QString word = QString::fromLatin1(side.word);
-  auto* listing = new NameListing(maker, session, side.listing, side.kind, parent);
+  auto* listing = new NameListing(maker, session, form, side.kind, parent);
+  letMark(maker, form, side, *listing);
   ListView& names = maker.list(side.names, parent);
   names.setAccessibleName(word);
   new NameKeys(maker, side.names, side.newName, names);

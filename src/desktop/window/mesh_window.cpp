@@ -181,7 +181,8 @@ void MeshWindow::keepTheKeys() {
 
 bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return FormWindow::eventFilter(watched, event);
-  if (uncover(*static_cast<QKeyEvent*>(event))) return true;
+  const auto& pressed = *static_cast<QKeyEvent*>(event);
+  if (uncover(pressed) || unmark(pressed)) return true;
   const std::string key = keyName(*static_cast<QKeyEvent*>(event));
   // Space is the view's, so Enter chooses an option.
   if (auto* option = qobject_cast<QRadioButton*>(watched); option != nullptr && key == "Enter") {
@@ -193,7 +194,7 @@ bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void MeshWindow::keyPressEvent(QKeyEvent* event) {
-  if (uncover(*event)) return;
+  if (uncover(*event) || unmark(*event)) return;
   // Out of what one types into the keys go back to the views.
   if (event->key() == Qt::Key_Escape && focusWidget() != views_ && typesInto(focusWidget())) {
     views_->setFocus(Qt::OtherFocusReason);
@@ -206,6 +207,13 @@ void MeshWindow::keyPressEvent(QKeyEvent* event) {
 bool MeshWindow::uncover(const QKeyEvent& event) {
   if (event.key() != Qt::Key_Escape || !mesh_.ImageBoss.visible()) return false;
   maker().dispatcher().raise(mesh_.ImageBoss.clicked);
+  return true;
+}
+
+bool MeshWindow::unmark(const QKeyEvent& event) {
+  if (event.key() != Qt::Key_Escape || !mesh_.Mark) return false;
+  const front::MarkWanted again{.materials = mesh_.Mark->materials, .name = mesh_.Mark->name};
+  maker().dispatcher().raise(mesh_.markWanted, again);
   return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "desktop/gl/gl_support.h"
 #include "desktop/gl/gl_view.h"
+#include "desktop/images.h"
 #include "obj/surgery/overlays.h"
 
 #include <QCoreApplication>
@@ -13,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <utility>
 
 namespace norvik::desktop {
 
@@ -86,6 +88,10 @@ ViewStack::ViewStack(Maker& maker, front::FormOBJ& form, DesktopFrontEnd& frontE
     if (picture == nullptr || picture == &form.PictureObjViewer2) continue;
     SurfaceView& view = maker.surface(*picture, *this);
     addView(view);
+    const auto flatViews = form.flatViews();
+    const auto* flat = std::find(flatViews.begin(), flatViews.end(), picture);
+    if (flat != flatViews.end())
+      flat_.at(static_cast<std::size_t>(flat - flatViews.begin())) = &view;
     if (isOverlay(form, *picture)) followOverlay(maker, *picture, view);
     maker.watch({picture}, [this] { tellWhatToDo(); });
   }
@@ -93,13 +99,16 @@ ViewStack::ViewStack(Maker& maker, front::FormOBJ& form, DesktopFrontEnd& frontE
   maker.cover(form.ImageBoss, *this, QStringLiteral("boss_sheet"));
   maker.watch({&form.PictureObjViewer2, &form.LabelView, &form.ImageBoss, &form.CommandListGroups},
               [this] { tellWhatToDo(); });
+  maker.watch({&form.PictureObjViewer2, &form.PictureStore, &form.ListGroups},
+              [this] { showMark(); });
 }
 
 QWidget& ViewStack::make3DView(Maker& maker, front::PictureBox& picture,
                                DesktopFrontEnd& frontEnd) {
   QWidget* view = nullptr;
   if (glSupport().present) {
-    view = new GlView(frontEnd.glDevice(picture), this);
+    space_ = new GlView(frontEnd.glDevice(picture), this);
+    view = space_;
   } else {
     view = new BlankView(this);
   }
@@ -194,6 +203,20 @@ void ViewStack::tellWhatToDo() {
   hint_->setText(read ? QStringLiteral("Space spins the mesh, View draws it again.")
                       : QStringLiteral("View reads the mesh and draws it."));
   hint_->raise();
+}
+
+void ViewStack::showMark() {
+  if (mark_ == form_.Mark) return;
+  mark_ = form_.Mark;
+  for (std::size_t view = 0; view < flat_.size(); ++view) {
+    flat_.at(view)->setMark(mark_ ? imageOn(mark_->flat.at(view)) : QImage());
+  }
+  if (space_ == nullptr) return;
+  std::vector<GlDevice::Corner> corners;
+  if (mark_) {
+    for (const graphics::Vertex& at : mark_->corners) corners.push_back({at.x, at.y, at.z});
+  }
+  space_->setMark(std::move(corners));
 }
 
 }  // namespace norvik::desktop
