@@ -73,7 +73,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   front::Session session(quiet, disk, settings, opening);
   constexpr norvik::install::UnpackLimits kLimits{100'000, 50};
   try {
-    norvik::install::unpackZip(session, "C:\\x.zip", "C:\\Norvik\\cr2install", kLimits);
+    norvik::install::Unpacking unpacking(session, "C:\\x.zip", "C:\\Norvik\\cr2install", kLimits);
+    unpacking.withFolders();
+    place.check();
+    unpacking.flat();
   } catch (const norvik::text::FileError&) {
     // What the host refuses is told.
   }

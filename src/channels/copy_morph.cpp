@@ -3,6 +3,7 @@
 #include "channels/copy_run.h"
 #include "channels/morph_extract.h"
 #include "channels/morph_merge.h"
+#include "front/stoppable_pass.h"
 #include "text/columns.h"
 
 namespace norvik::channels {
@@ -40,10 +41,14 @@ bool copyLine(front::Session& session, CopyRun& run, int index) {
   }
   session.hourglass(true);
   chooseSearch(run, opening.ListChannels, index);
-  if (!extractMorph(session, run, item.substr(1))) return false;
-  session.hourglass(false);
-  mergeMorph(session, run);
-  return true;
+  bool extracted = false;
+  front::runStoppable(session.front, [&] {
+    extracted = extractMorph(session, run, item.substr(1));
+    if (!extracted) return;
+    session.hourglass(false);
+    mergeMorph(session, run);
+  });
+  return extracted;
 }
 
 void offerResult(front::Session& session) {
@@ -57,8 +62,9 @@ void offerResult(front::Session& session) {
   if (answer != front::Answer::yes) return;
   front::CommonDialog& dialog = opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), proposed, {},
-                   {"Save the figure with the copied channels", front::kFigureFilter}))
+                   {"Save the figure with the copied channels", front::kFigureFilter})) {
     return;
+  }
   session.disk.replace(opening.inProgramFolder(kMergedFile), dialog.fileName());
 }
 

@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 
@@ -33,6 +34,12 @@ class Asker {
   }
   /// A box that may come again: none is OK for this one and all that follow.
   virtual std::optional<front::Answer> repeatedBox(const Box& asked) { return box(asked); }
+
+  /// A box with a button for each of these ways beside its own, which leaves it at that.
+  virtual std::optional<std::size_t> way(const Box& asked, const QStringList& ways) {
+    static_cast<void>(asked), static_cast<void>(ways);
+    return std::nullopt;
+  }
 
   struct File {
     bool save = false;

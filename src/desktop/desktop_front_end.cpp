@@ -18,8 +18,6 @@
 #include <QScreen>
 #include <QTimer>
 
-#include <algorithm>
-
 namespace norvik::desktop {
 
 namespace {
@@ -146,6 +144,14 @@ void DesktopFrontEnd::endRepeats() {
   repeated_.reset();
 }
 
+std::optional<std::size_t> DesktopFrontEnd::offer(const front::FurtherWays& offered) {
+  dispatcher_.sync();
+  const ArrowMeanwhile arrow(hourglass_);
+  QStringList ways;
+  for (const std::string& way : offered.ways) ways << shown(way);
+  return asker_.way({.title = shown(offered.title), .text = shownMessage(offered.text)}, ways);
+}
+
 QString DesktopFrontEnd::hostFolder(const std::string& folder) const {
   const bool there = !folder.empty() && disk_.folderExists(folder);
   return hostName(disk_.hostPath(there ? folder : disk_.currentFolder()));
@@ -210,34 +216,8 @@ void DesktopFrontEnd::print(std::string_view font, const std::vector<std::string
   }
 }
 
-void DesktopFrontEnd::setHourglass(front::Form&, bool on) {
-  if (on == hourglass_) return;
-  hourglass_ = on;
-  if (on) {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-  } else {
-    QApplication::restoreOverrideCursor();
-  }
-  if (stage_ != nullptr) stage_->setBusy(on);
-}
-
 void DesktopFrontEnd::beep() {
   QApplication::beep();
-}
-
-/// A tool may call this for each of a million faces. Most of its time belongs to the tool.
-void DesktopFrontEnd::pumpEvents() {
-  constexpr qint64 kLeastQuiet = 8'000'000;
-  constexpr qint64 kMostQuiet = 100'000'000;
-  constexpr qint64 kQuietPerPump = 4;
-  if (sincePump_.isValid() && sincePump_.nsecsElapsed() < quiet_) return;
-  QElapsedTimer pump;
-  pump.start();
-  dispatcher_.sync();
-  const Dispatcher::Door door(dispatcher_);
-  QCoreApplication::processEvents();
-  quiet_ = std::clamp(kQuietPerPump * pump.nsecsElapsed(), kLeastQuiet, kMostQuiet);
-  sincePump_.start();
 }
 
 GlDevice& DesktopFrontEnd::glDevice(front::PictureBox& picture) {

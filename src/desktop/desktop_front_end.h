@@ -5,9 +5,12 @@
 #include "desktop/dispatcher.h"
 #include "desktop/gl/gl_device.h"
 #include "desktop/pacer.h"
+#include "desktop/pass_stop.h"
 #include "desktop/sound.h"
 #include "front/front_end.h"
+#include "front/further_ways.h"
 #include "front/repeated_question.h"
+#include "front/stoppable_pass.h"
 #include "text/disk.h"
 
 #include <QElapsedTimer>
@@ -31,7 +34,10 @@ class Stage {
   virtual bool drawTile(int left, int top) = 0;
 };
 
-class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions {
+class DesktopFrontEnd : public front::FrontEnd,
+                        public front::FurtherWaysOffer,
+                        public front::RepeatedQuestions,
+                        public front::PassStopper {
  public:
   DesktopFrontEnd(Dispatcher& dispatcher, Asker& asker, text::Disk& disk);
   ~DesktopFrontEnd() override;
@@ -60,9 +66,16 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   void stopWaiting() { stopped_ = true; }
   bool waiting() const { return waiting_; }
 
+  /// Ends a pass that the operator has enough of.
+  PassStop& passStop() { return passStop_; }
+
   front::Answer messageBox(std::string_view text, std::string_view title, int style) override;
   void beginRepeats(std::string_view title) override;
   void endRepeats() override;
+  void beginPass() override;
+  void checkPass() override { passStop_.check(); }
+  void endPass() override;
+  std::optional<std::size_t> offer(const front::FurtherWays& offered) override;
   std::optional<std::string> fileDialog(const front::FileDialog& dialog) override;
   std::optional<front::Colour> colourDialog(front::Colour initial) override;
   bool printerDialog() override;
@@ -107,6 +120,7 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   static constexpr int kTile = 64;
 
   std::optional<ComparedFiles> changesOnOffer(int style) const;
+  void showHourglass(bool on);
   QString hostFolder(const std::string& folder) const;
   front::Answer repeatedBox(const Asker::Box& box);
   QString proposedName(const std::string& file) const;
@@ -128,7 +142,9 @@ class DesktopFrontEnd : public front::FrontEnd, public front::RepeatedQuestions 
   qint64 quiet_ = 0;                     ///< nanoseconds to the next pump that is worth it
   std::optional<std::string> repeated_;  ///< the title of the boxes that may come again
   bool okForAll_ = false;
+  PassStop passStop_;
   bool hourglass_ = false;
+  bool hourglassBehind_ = false;  ///< the pass that runs
   bool waiting_ = false;
   bool stopped_ = false;
   bool ended_ = false;

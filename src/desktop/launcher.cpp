@@ -102,8 +102,9 @@ bool runProgramToEnd(const text::Disk& disk, std::string_view program,
   for (const std::string& argument : arguments) {
     // The loader's programs have drives of their own, on which Z: is all of the host.
     QString path = hostPathOf(disk, shown(argument));
-    if (ofTheFigures)
+    if (ofTheFigures) {
       path = QStringLiteral("Z:") + path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+    }
     words << path;
   }
   // It goes with the program, not with the wait: one that nobody waits for runs on.

@@ -39,6 +39,7 @@ Program::Program(const Options& options, Asker& asker)
   host_.setPump([this](const PumpingHost::Progress& progress) {
     windows_->breathe(progress.position, progress.size);
   });
+  host_.setCheck([this] { frontEnd_->passStop().check(); });
 }
 
 Program::~Program() = default;

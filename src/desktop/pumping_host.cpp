@@ -20,6 +20,7 @@ class PumpedFile : public text::HostFile {
     progress_.position += got;
     host_.read_ = progress_;
     host_.tick(progress_);
+    if (host_.check_) host_.check_();
     return error;
   }
   int write(std::string_view bytes) override {

@@ -21,6 +21,9 @@ class PumpingHost : public text::HostOps {
 
   explicit PumpingHost(text::HostOps& host) : host_(host) {}
   void setPump(Pump pump) { pump_ = std::move(pump); }
+  /// Who may end a pass, by an exception, after each read. Writes go through: they are also what
+  /// an end leaves to be done.
+  void setCheck(std::function<void()> check) { check_ = std::move(check); }
 
   int open(const std::string& name, text::HostOpenMode mode,
            std::unique_ptr<text::HostFile>& file) override;
@@ -60,6 +63,7 @@ class PumpingHost : public text::HostOps {
 
   text::HostOps& host_;
   Pump pump_;
+  std::function<void()> check_;
   Progress read_;  ///< of the file that was read last
   std::chrono::steady_clock::time_point last_{};
 };

@@ -150,6 +150,20 @@ std::optional<front::Answer> WindowAsker::repeatedBox(const Box& asked) {
   return answerOf(button);
 }
 
+std::optional<std::size_t> WindowAsker::way(const Box& asked, const QStringList& ways) {
+  std::optional<std::size_t> taken;
+  exec(asked, [&](QMessageBox& box) {
+    box.button(QMessageBox::Ok)->setText(QStringLiteral("&Close"));
+    box.setDefaultButton(QMessageBox::Ok);
+    for (qsizetype i = 0; i < ways.size(); ++i) {
+      const QPushButton* button = box.addButton(ways[i], QMessageBox::ActionRole);
+      QObject::connect(button, &QPushButton::clicked, &box,
+                       [&taken, i] { taken = static_cast<std::size_t>(i); });
+    }
+  });
+  return taken;
+}
+
 std::optional<QString> WindowAsker::file(const File& file) {
   FileChooser chooser(file, owner());
   if (chooser.exec() != QDialog::Accepted) return std::nullopt;

@@ -10,6 +10,7 @@ class WindowAsker : public Asker {
   using Asker::box;
   front::Answer box(const Box& box) override;
   std::optional<front::Answer> repeatedBox(const Box& box) override;
+  std::optional<std::size_t> way(const Box& asked, const QStringList& ways) override;
   std::optional<QString> file(const File& file) override;
   std::optional<front::Colour> colour(front::Colour initial) override;
   bool printer(QPrinter& printer) override;

@@ -3,8 +3,6 @@
 #include "desktop/forms/form_windows.h"
 #include "desktop/window/place.h"
 
-#include <QCoreApplication>
-
 #include <utility>
 
 namespace norvik::desktop {
@@ -38,6 +36,10 @@ void Windows::sync() {
 void Windows::rest() {
   main_->rest();
   for (const auto& [form, window] : others_) window->rest();
+  if (!frontEnd_.passStop().takeStopped()) return;
+  const QString cancelled = QStringLiteral("Cancelled");
+  main_->say(cancelled);
+  for (const auto& [form, window] : others_) window->say(cancelled);
 }
 
 void Windows::setBusy(bool busy) {
@@ -97,7 +99,7 @@ void Windows::close(front::Form& form) {
 void Windows::breathe(std::uint64_t position, std::uint64_t size) {
   main_->setProgress(position, size);
   for (const auto& [form, window] : others_) window->setProgress(position, size);
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  frontEnd_.passStop().processEvents();
 }
 
 }  // namespace norvik::desktop

@@ -27,7 +27,7 @@ class Windows : public Stage {
   bool drawTile(int left, int top) override { return main_->drawTile(left, top); }
 
   /// Repaints in the middle of a pass that has come so far; nothing that the operator does gets
-  /// through.
+  /// through but the end of the pass.
   void breathe(std::uint64_t position, std::uint64_t size);
 
  private:

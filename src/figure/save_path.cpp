@@ -6,8 +6,9 @@ std::optional<std::string> chooseSavePath(front::Session& session, std::string_v
                                           std::string_view purpose) {
   front::CommonDialog& dialog = session.opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), proposed, {},
-                   {purpose, front::kFigureFilter}))
+                   {purpose, front::kFigureFilter})) {
     return std::nullopt;
+  }
   return dialog.fileName();
 }
 

@@ -87,6 +87,8 @@ void FormOBJ::restoreStart() {
   ReadAgain = false;
   AddMode = false;
   RenamesPending = false;
+  GroupsAsRead.clear();
+  MaterialsAsRead.clear();
   LopOn = false;
   TurnFacesRound = false;
   MapDrawn = 0;

@@ -10,8 +10,17 @@
 #include "front/text_controls.h"
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace norvik::front {
+
+/// A rename that is taken back before it is written.
+struct RenameBack {
+  bool materials = false;              ///< of a material, else of a group
+  int index = 0;                       ///< in the list of pending renames
+  std::vector<std::string> also = {};  ///< the entries that went with it, filled in
+};
 
 class FormOBJ : public Form {
  public:
@@ -42,8 +51,15 @@ class FormOBJ : public Form {
   bool LopOn = false;           ///< the lop box is being drawn
   /// A mirrored mesh has its faces turned round too, so that they look outwards again.
   bool TurnFacesRound = false;
+  // The names as the read left them, once one was renamed; empty before that.
+  std::vector<std::string> GroupsAsRead;
+  std::vector<std::string> MaterialsAsRead;
   int MapDrawn = 0;  ///< 1 when a template is on PictureUVMap
   int MapSaved = 0;  ///< 1 when it is saved
+
+  // What only a window asks for.
+
+  Event<RenameBack&> renameTakenBack{*this};
 
   // The views. Their surfaces have pixels while the form is loaded.
 

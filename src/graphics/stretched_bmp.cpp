@@ -1,10 +1,11 @@
 #include "graphics/stretched_bmp.h"
 
 #include "graphics/bmp.h"
+#include "graphics/stretched_rows.h"
 #include "text/line_writer.h"
 
 #include <cstddef>
-#include <vector>
+#include <span>
 
 namespace norvik::graphics {
 
@@ -12,41 +13,23 @@ namespace {
 
 constexpr std::size_t kBytesOfAPixel = 3;
 
-/// One row of the stretched picture as it stands in the file.
-class Row {
- public:
-  Row(const Surface& surface, int width)
-      : surface_(surface), bytes_(bmpRowSize(width), '\0'), from_(static_cast<std::size_t>(width)) {
-    for (std::size_t x = 0; x < from_.size(); ++x) {
-      from_[x] = x * static_cast<std::size_t>(surface.width()) / from_.size();
+/// Puts a row's pixels as they stand in the file over the bytes of another.
+void put(std::span<const std::uint32_t> pixels, std::string& bytes) {
+  for (std::size_t x = 0; x < pixels.size(); ++x) {
+    for (std::size_t part = 0; part < kBytesOfAPixel; ++part) {
+      bytes[x * kBytesOfAPixel + part] = static_cast<char>(pixels[x] >> 8U * part & 0xFFU);
     }
   }
-
-  const std::string& at(std::size_t y) {
-    const auto width = static_cast<std::size_t>(surface_.width());
-    const auto pixels = surface_.pixels().subspan(y * width, width);
-    for (std::size_t x = 0; x < from_.size(); ++x) {
-      const std::uint32_t pixel = pixels[from_[x]];
-      for (std::size_t part = 0; part < kBytesOfAPixel; ++part) {
-        bytes_[x * kBytesOfAPixel + part] = static_cast<char>(pixel >> 8U * part & 0xFFU);
-      }
-    }
-    return bytes_;
-  }
-
- private:
-  const Surface& surface_;
-  std::string bytes_;
-  std::vector<std::size_t> from_;  ///< the column of the surface that each pixel takes
-};
+}
 
 void write(text::Disk& disk, const Surface& surface, Point size, const std::string& path) {
   text::LineWriter file(disk, path);
   file.bytes(bmpHeaders(size.x, size.y));
-  Row row(surface, size.x);
-  const auto height = static_cast<std::size_t>(size.y);
-  for (std::size_t y = height; y-- > 0;) {
-    file.bytes(row.at(y * static_cast<std::size_t>(surface.height()) / height));
+  StretchedRows rows(surface, size);
+  std::string bytes(bmpRowSize(size.x), '\0');
+  for (int y = size.y; y-- > 0;) {
+    put(rows.row(y), bytes);
+    file.bytes(bytes);
   }
   file.close();
 }

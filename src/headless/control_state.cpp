@@ -186,10 +186,17 @@ bool putProperty(front::Control& control, std::string_view name, const std::stri
   return true;
 }
 
+std::vector<Property> propertiesOf(const front::Form& form) {
+  PropertyList list;
+  list.boolean("visible", form.loaded());
+  list.text("caption", form.caption());
+  return list.take();
+}
+
 JsonObject showEvent(const front::Form& form) {
   JsonObject event("show");
   event.text("control", form.name()).text("kind", "form");
-  event.boolean("visible", form.loaded()).text("caption", form.caption());
+  for (const Property& property : propertiesOf(form)) event.raw(property.name, property.json);
   return event;
 }
 

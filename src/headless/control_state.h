@@ -28,7 +28,10 @@ bool putProperty(front::Control& control, std::string_view name, const std::stri
 /// The event that shows a control; `name` is how the script calls it.
 JsonObject showEvent(const front::Control& control, std::string_view name);
 
-/// The event that shows a form itself, loaded or not.
+/// The properties of a form itself, loaded or not.
+std::vector<Property> propertiesOf(const front::Form& form);
+
+/// The event that shows a form itself.
 JsonObject showEvent(const front::Form& form);
 
 }  // namespace norvik::headless

@@ -18,8 +18,9 @@ int run(const Options& options) {
   const auto host = norvik::text::makePosixHost();
   if (options.script == "-") return runScript(options, *host, std::cin, std::cout);
   std::ifstream script(options.script, std::ios::binary);
-  if (!script || std::filesystem::is_directory(options.script))
+  if (!script || std::filesystem::is_directory(options.script)) {
     throw BadOption{"cannot read the script '" + options.script + "'"};
+  }
   return runScript(options, *host, script, std::cout);
 }
 

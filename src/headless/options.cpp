@@ -65,8 +65,9 @@ std::string clockOf(const std::string& value) {
     formed = form[i] == '0' ? std::isdigit(static_cast<unsigned char>(value[i])) != 0
                             : value[i] == form[i];
   }
-  if (!formed)
+  if (!formed) {
     throw workbench::BadOption{"--clock takes \"YYYY-MM-DD HH:MM:SS\", not '" + value + "'"};
+  }
   return value;
 }
 

@@ -38,18 +38,22 @@ void Commands::addOutput() {
 }
 
 void Commands::checkProperty(ScriptLine& line) {
-  const front::Control& control = find(line.word());
+  const std::string of = line.word();
+  const front::Form* form = session_.findForm(of);
+  const front::Control* control = form != nullptr ? nullptr : &find(of);
+  const auto properties = form != nullptr ? propertiesOf(*form) : propertiesOf(*control);
   const std::string name = line.word();
   const std::string wanted = line.rest();
-  for (const Property& property : propertiesOf(control)) {
+  for (const Property& property : properties) {
     if (property.name != name) continue;
     if (property.text != wanted) {
-      fail(line, session_.nameOf(control) + " " + name + " is '" + property.text + "', not '" +
-                     wanted + "'");
+      const std::string owner = form != nullptr ? form->name() : session_.nameOf(*control);
+      fail(line, owner + " " + name + " is '" + property.text + "', not '" + wanted + "'");
     }
     return;
   }
-  throw Refused{control.name() + " has no property '" + name + "'"};
+  const std::string owner = form != nullptr ? form->name() : control->name();
+  throw Refused{owner + " has no property '" + name + "'"};
 }
 
 void Commands::savePicture(ScriptLine& line) {

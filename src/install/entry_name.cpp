@@ -6,13 +6,20 @@
 
 namespace norvik::install {
 
+namespace {
+
+// The figures' own system takes a path of 260 characters; those in use have some ten steps.
+constexpr std::size_t kMostSteps = 64;
+
+}  // namespace
+
 std::optional<std::vector<std::string>> entrySteps(std::string_view name) {
   const std::string divided = text::replaced(name, '\\', '/');
   if (divided.starts_with('/') || text::holds(divided, ":")) return std::nullopt;
   std::vector<std::string> steps = text::parts(divided, '/');
   std::erase_if(steps, [](const std::string& step) { return step.empty() || step == "."; });
   const bool climbs = std::find(steps.begin(), steps.end(), "..") != steps.end();
-  if (climbs || steps.empty()) return std::nullopt;
+  if (climbs || steps.empty() || steps.size() > kMostSteps) return std::nullopt;
   return steps;
 }
 

@@ -2,10 +2,8 @@
 // The way into the installer, and out of it.
 //
 // MenuInstallCR2 takes the first CR2 out of the staging folder, "\cr2install" below the program
-// folder. If none waits there, the operator picks a zip file, which is unpacked into it, by the
-// unzipper that the settings name or by Norvik itself. Then the lists of the main form make room
-// for the files that the CR2 names. PictureCR2InstallCancel gives the room back; what was unpacked
-// stays.
+// folder, or out of a zip file. Then the lists of the main form make room for the files that the
+// CR2 names. PictureCR2InstallCancel gives the room back; what was unpacked stays.
 
 #include "front/session.h"
 #include "front/view_before.h"

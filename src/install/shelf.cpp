@@ -28,6 +28,12 @@ fs::file_type typeOf(const std::string& path) {
   return status.type();
 }
 
+std::optional<fs::file_time_type> timeOf(const std::string& path) {
+  std::error_code error;
+  const fs::file_time_type time = fs::last_write_time(path, error);
+  return error ? std::nullopt : std::optional{time};
+}
+
 void move(const std::string& from, const std::string& to) {
   std::error_code error;
   fs::rename(from, to, error);
@@ -60,6 +66,10 @@ Shelf::Shelf(std::string hostFolder) : host_(std::move(hostFolder)) {
   }
 }
 
+bool Shelf::has(const std::string& name) const {
+  return names_.contains(text::foldedName(name));
+}
+
 Shelf& Shelf::folder(const std::string& name) {
   const auto [known, isNew] = names_.try_emplace(text::foldedName(name), Known{name});
   const std::string folder = path(known->second.name);
@@ -68,6 +78,7 @@ Shelf& Shelf::folder(const std::string& name) {
     fs::create_directory(folder, error);
     if (error) names_.erase(known);
     orRaise(error);
+    known->second.made = true;
   } else if (typeOf(folder) != fs::file_type::directory) {
     refuse(name);
   }
@@ -75,23 +86,36 @@ Shelf& Shelf::folder(const std::string& name) {
   return *known->second.shelf;
 }
 
-void Shelf::makeRoom(Known& taken) {
-  std::vector<std::string> standing{taken.name};
-  standing.insert(standing.end(), taken.others.begin(), taken.others.end());
+void Shelf::removeFolder(const std::string& name) {
+  const auto known = names_.find(text::foldedName(name));
+  if (known == names_.end()) return;
+  const std::string folder = path(known->second.name);
+  if (typeOf(folder) != fs::file_type::directory) return;
+  std::error_code error;
+  fs::remove(folder, error);
+  if (!error) names_.erase(known);
+}
+
+void Shelf::makeRoom(Known& wanted) {
+  std::vector<std::string> standing{wanted.name};
+  standing.insert(standing.end(), wanted.others.begin(), wanted.others.end());
   for (const std::string& name : standing) {
     if (typeOf(path(name)) != fs::file_type::regular) refuse(name);
   }
-  taken.others.clear();
-  for (const std::string& name : standing) keepUnderNumber(taken, name);
+  wanted.others.clear();
+  std::optional<Time> taken = std::exchange(wanted.taken, std::nullopt);
+  for (const std::string& name : standing) {
+    keepUnderNumber(wanted, name, std::exchange(taken, std::nullopt));
+  }
 }
 
-void Shelf::keepUnderNumber(Known& taken, const std::string& name) {
+void Shelf::keepUnderNumber(Known& wanted, const std::string& name, std::optional<Time> taken) {
   std::string other;
   do {
-    other = numberedName(name, ++taken.numbered);
+    other = numberedName(name, ++wanted.numbered);
   } while (names_.contains(text::foldedName(other)));
   move(path(name), path(other));
-  names_.try_emplace(text::foldedName(other), Known{other});
+  names_.try_emplace(text::foldedName(other), Known{other}).first->second.taken = taken;
 }
 
 void Shelf::take(const std::string& hostFile, const std::string& name) {
@@ -99,10 +123,23 @@ void Shelf::take(const std::string& hostFile, const std::string& name) {
   if (!isNew) makeRoom(known->second);
   try {
     move(hostFile, path(name));
-    known->second.name = name;
   } catch (const text::FileError&) {
     names_.erase(known);
     throw;
+  }
+  known->second.name = name;
+  known->second.taken = timeOf(path(name));
+}
+
+void Shelf::takeBack() {
+  for (auto& [folded, known] : names_) {
+    if (known.shelf) known.shelf->takeBack();
+    const std::string mine = path(known.name);
+    const bool stillMine =
+        known.taken && typeOf(mine) == fs::file_type::regular && timeOf(mine) == known.taken;
+    const bool isFolder = known.made && typeOf(mine) == fs::file_type::directory;
+    std::error_code ignored;
+    if (stillMine || isFolder) fs::remove(mine, ignored);
   }
 }
 

@@ -26,8 +26,9 @@ void clearReadOnlyAttributes(front::Session& session) {
   front::CommonDialog& dialog = session.opening.CommonDialog1;
   const std::string folder = session.disk.currentFolder();
   if (!dialog.open(session.front, folder, {},
-                   {"Take the read-only attribute off all files like this one"}))
+                   {"Take the read-only attribute off all files like this one"})) {
     return;
+  }
   const std::string extension{text::extension(dialog.fileName())};
   std::int64_t count = 0;
   for (const std::string& name : session.disk.matching("*." + extension)) {

@@ -1,5 +1,6 @@
 #include "obj/mash.h"
 
+#include "front/stoppable_pass.h"
 #include "text/first_dot.h"
 #include "text/number_text.h"
 #include "text/rewrite_pass.h"
@@ -45,11 +46,13 @@ Condensed condense(front::Session& session, const std::string& path, const std::
     return Condensed::already;
   }
   session.hourglass(true);
-  pass.out().line(kMarkLine);
-  pass.out().line(first);
-  if (opening.OptionMashOBJ.value()) dropNormals(pass);
-  if (opening.OptionMashMorph.value()) keepVertices(pass);
-  pass.finish();
+  front::runStoppable(session.front, [&] {
+    pass.out().line(kMarkLine);
+    pass.out().line(first);
+    if (opening.OptionMashOBJ.value()) dropNormals(pass);
+    if (opening.OptionMashMorph.value()) keepVertices(pass);
+    pass.finish();
+  });
   return Condensed::yes;
 }
 

@@ -3,7 +3,9 @@
 
 #include "front/form_obj.h"
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace norvik::obj {
 
@@ -17,6 +19,7 @@ struct NameSide {
   front::TextBox& newName;
   front::CheckBox& saveCheck;
   front::ListBox& saveList;
+  std::vector<std::string>& asRead;  ///< the names before the first rename
   // Hidden.
   front::ListBox& colours;
   front::ListBox& renames;  ///< each old name, "*", new name; " NULL" drops the name

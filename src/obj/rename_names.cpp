@@ -1,6 +1,7 @@
 #include "obj/rename_names.h"
 
 #include "obj/name_side.h"
+#include "obj/pending_renames.h"
 
 #include <string>
 
@@ -13,6 +14,7 @@ void rename(front::FormOBJ& form, const NameSide& side) {
   if (index == front::ListBox::kNone) return;
   const std::string old{side.names.chosen()};
   const std::string& name = side.newName.text();
+  if (side.asRead.empty()) side.asRead = side.names.items();
   side.renames.add(old + "*" + (name.empty() ? " NULL" : name));
   side.names.remove(index);
   if (!name.empty()) side.names.insert(index, name);
@@ -38,6 +40,15 @@ void wire(front::FormOBJ& form, NameSide (*sideOf)(front::FormOBJ&)) {
 void wireRenaming(Workshop& workshop) {
   wire(workshop.form, groupSide);
   wire(workshop.form, materialSide);
+  workshop.form.renameTakenBack.add([&workshop](front::RenameBack& back) {
+    // The names are still on their way into the list.
+    if (workshop.reading) return;
+    const bool materials = back.materials;
+    const NameSide side = materials ? materialSide(workshop.form) : groupSide(workshop.form);
+    back.also = takeRenameBack(side, back.index);
+    workshop.form.RenamesPending =
+        workshop.form.ListGrpRen.count() > 0 || workshop.form.ListMatRen.count() > 0;
+  });
 }
 
 }  // namespace norvik::obj

@@ -1,12 +1,13 @@
 #include "obj/rewrite_names.h"
 
+#include "front/stoppable_pass.h"
 #include "obj/name_side.h"
+#include "obj/pending_renames.h"
 #include "obj/save_result.h"
 #include "text/columns.h"
 #include "text/rewrite_pass.h"
 
 #include <string>
-#include <vector>
 
 namespace norvik::obj {
 
@@ -14,38 +15,26 @@ namespace {
 
 constexpr std::string_view kResult = "\\newobj.txt";
 constexpr std::string_view kMerged = "\\newobj1.txt";
-constexpr std::string_view kDropped = "NULL";
 
 /// The renames of one side, and whether its last name was dropped.
 class Renamer {
  public:
-  explicit Renamer(const NameSide& side) : side_(side) {
-    for (const std::string& entry : side.renames.items()) {
-      renames_.push_back({std::string{text::trimmed(text::before(entry, "*"))},
-                          std::string{side.token}.append(text::after(entry, "*"))});
-    }
-  }
+  explicit Renamer(const NameSide& side) : side_(side), renames_(side.renames.items()) {}
 
   bool dropping() const { return dropping_; }
 
-  /// Gives a line of this side its new name. The renames apply one after the other, each to the
-  /// name that the line has by then. Any "NULL" in the line drops it.
+  /// Gives a line of this side its new name. Any "NULL" in the line drops it.
   void take(std::string& line) {
     if (!isOf(side_, line)) return;
-    for (const Rename& rename : renames_) {
-      if (nameOn(side_, line) == rename.name) line = rename.line;
+    if (const auto name = renames_.newName(nameOn(side_, line))) {
+      line = std::string{side_.token}.append(*name);
     }
-    dropping_ = text::holds(line, kDropped);
+    dropping_ = text::holds(line, kDropsName);
   }
 
  private:
-  struct Rename {
-    std::string name;
-    std::string line;
-  };
-
   const NameSide& side_;
-  std::vector<Rename> renames_;
+  PendingRenames renames_;
   bool dropping_ = false;
 };
 
@@ -88,14 +77,14 @@ void rewriteNames(Workshop& workshop) {
   const std::string result = session.opening.inProgramFolder(kResult);
   const std::string merged = session.opening.inProgramFolder(kMerged);
   session.hourglass(true);
-  {
-    text::RewritePass pass(session.disk, source, result);
-    renameInto(workshop.form, pass);
-  }
-  {
+  front::runStoppable(session.front, [&] {
+    {
+      text::RewritePass pass(session.disk, source, result);
+      renameInto(workshop.form, pass);
+    }
     text::RewritePass pass(session.disk, result, merged);
     mergeInto(pass);
-  }
+  });
   session.disk.replace(merged, result);
   session.hourglass(false);
   saveResult(session, result, source, {"Save the mesh with its new names as", front::kMeshFilter});

@@ -14,6 +14,8 @@ constexpr std::string_view kScratch = "\\MapSave.tmp";
 constexpr std::string_view kPrompt = "Enter Map Size";
 constexpr std::string_view kEnding = "bmp";
 constexpr std::string_view kSecondEnding = ".bmp";
+constexpr std::string_view kTransparentEnding = "png";
+constexpr std::string_view kSecondTransparentEnding = ".png";
 constexpr int kMapPixels = 580;
 
 /// What the two templates differ in.
@@ -29,6 +31,10 @@ Sheet mainSheet(front::FormOBJ& form) {
 
 Sheet secondSheet(front::FormOBJ& form) {
   return {form.PictureSecMap, form.TextMapSizeSec, "Secondary UV Map saved as "};
+}
+
+bool isSecond(const front::TextBox& size) {
+  return size.name() == "TextMapSizeSec";
 }
 
 std::optional<int> pixelsIn(std::string_view text) {
@@ -78,9 +84,15 @@ void wire(Workshop& workshop, Sheet (*sheetOf)(front::FormOBJ&)) {
 std::optional<MapFile> mapFile(const front::Opening& opening, const front::TextBox& size) {
   const auto pixels = pixelsIn(size.text());
   if (!pixels) return std::nullopt;
-  const bool second = size.name() == "TextMapSizeSec";
+  const bool second = isSecond(size);
   const std::string& mesh = opening.LabelOBJFileName.caption();
-  return MapFile{text::throughFirstDot(mesh, second ? kSecondEnding : kEnding), *pixels};
+  return MapFile{
+      text::throughFirstDot(mesh, second ? kSecondEnding : kEnding),
+      text::throughFirstDot(mesh, second ? kSecondTransparentEnding : kTransparentEnding), *pixels};
+}
+
+front::PictureBox& mapSheet(front::FormOBJ& form, const front::TextBox& size) {
+  return isSecond(size) ? form.PictureSecMap : form.PictureUVMap;
 }
 
 void wireSaveMap(Workshop& workshop) {

@@ -1,5 +1,6 @@
 #include "obj/save_names.h"
 
+#include "front/stoppable_pass.h"
 #include "obj/name_side.h"
 #include "obj/save_result.h"
 #include "text/columns.h"
@@ -78,14 +79,16 @@ void saveChosen(Workshop& workshop, const NameSide& side, const NameSide& other)
   const std::string source = session.opening.LabelOBJFileName.caption();
   const std::string result = session.opening.inProgramFolder(kResult);
   session.hourglass(true);
-  text::RewritePass pass(session.disk, source, result);
-  ChosenLines chosen(side, other);
-  while (!pass.in().atEnd()) {
-    std::string_view line = pass.in().line();
-    if (text::begins(line, " ")) line.remove_prefix(1);
-    chosen.take(line, pass.out());
-  }
-  pass.finish();
+  front::runStoppable(session.front, [&] {
+    text::RewritePass pass(session.disk, source, result);
+    ChosenLines chosen(side, other);
+    while (!pass.in().atEnd()) {
+      std::string_view line = pass.in().line();
+      if (text::begins(line, " ")) line.remove_prefix(1);
+      chosen.take(line, pass.out());
+    }
+    pass.finish();
+  });
   session.hourglass(false);
   saveResult(session, result, proposal(source), {"Save what was chosen as", front::kMeshFilter});
   putSavingAway(workshop.form, side);

@@ -86,6 +86,10 @@ std::string column(float value, float amount, Widths widths) {
 
 }  // namespace
 
+bool isScaledLine(std::string_view line) {
+  return text::begins(line, "v ") || text::begins(line, "v\t");
+}
+
 std::string scaledVertex(std::string_view line, float amount) {
   constexpr Widths kOfX{11, 12};
   constexpr Widths kOfOthers{8, 9};

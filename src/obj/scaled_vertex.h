@@ -6,6 +6,9 @@
 
 namespace norvik::obj {
 
+/// Whether a line is that of a vertex, which the scaler writes anew.
+bool isScaledLine(std::string_view line);
+
 /// The line of a vertex, scaled by an amount: a positive one multiplies, a negative one divides.
 /// The columns are those that files scaled by this program have always had: x ends in the column
 /// of its eighth digit, y and z are filled up with zeros to eight characters, or nine below 0. A

@@ -1,5 +1,6 @@
 #include "obj/scaler.h"
 
+#include "front/stoppable_pass.h"
 #include "mesh/obj_number.h"
 #include "obj/scaled_vertex.h"
 #include "text/columns.h"
@@ -25,7 +26,7 @@ void scaleInto(front::Session& session, const std::string& path, const std::stri
   while (!pass.in().atEnd()) {
     const std::string_view line = pass.in().field();
     if (text::begins(line, "vn")) continue;
-    if (text::begins(line, "v ") || text::begins(line, "v\t")) {
+    if (isScaledLine(line)) {
       pass.out().line(scaledVertex(line, amount));
     } else {
       pass.out().line(line);
@@ -50,7 +51,7 @@ void scaleOne(front::Session& session, float amount) {
   const std::string path = session.opening.LabelOBJFileName.caption();
   const std::string scratch = session.opening.inProgramFolder(kScratch);
   session.hourglass(true);
-  scaleInto(session, path, scratch, amount);
+  front::runStoppable(session.front, [&] { scaleInto(session, path, scratch, amount); });
   putScaleAway(session.opening);
   session.disk.replace(scratch, path);
   tellFinished(session, amount);

@@ -56,7 +56,7 @@ class FormPZ2 : public front::Form {
   front::ListBox ListMATColors{*this, "ListMATColors"};
   /// Hidden: the chosen materials.
   front::ListBox ListMaterialsMATWanted{*this, "ListMaterialsMATWanted"};
-  front::CheckBox CheckAllMat{*this, "CheckAllMat", "Include ALL Materials"};
+  front::CheckBox CheckAllMat{*this, "CheckAllMat", "Include ALL materials"};
   front::CheckBox CheckIncludeMaps{*this, "CheckIncludeMaps", "Include Maps"};
   front::CheckBox CheckNoTrans{*this, "CheckNoTrans", "No Trans Maps"};
   front::CheckBox CheckSetToWhite{*this, "CheckSetToWhite", "Set Colors to White"};

@@ -117,8 +117,9 @@ void save(front::Session& session, const std::string& scratch) {
   front::CommonDialog& dialog = session.opening.CommonDialog2;
   const std::string proposed = dialog.fileName();
   if (!dialog.save(session.front, text::withoutLast(poser, 1), proposed, {},
-                   {"Save the MAT pose as", front::kPoseFilter}))
+                   {"Save the MAT pose as", front::kPoseFilter})) {
     return;
+  }
   if (text::ignoringErrors([&] { session.disk.replace(scratch, dialog.fileName()); })) {
     session.front.tellOf({.path = dialog.fileName()});
   }

@@ -30,8 +30,9 @@ void loadFirst(front::Session& session, FormPZ2Combine& form) {
 void openSecond(front::Session& session, FormPZ2Combine& form) {
   front::CommonDialog& dialog = session.opening.CommonDialog1;
   if (!dialog.open(session.front, session.disk.currentFolder(), {},
-                   {"Open the pose to weld to the first", front::kPoseFilter}))
+                   {"Open the pose to weld to the first", front::kPoseFilter})) {
     return;
+  }
   if (!isPose(session, dialog.fileName())) return;
   // Not ListTGVP: the kinds at its top stay those of the file before.
   for (front::ListBox* list : {&form.ListKeyLines, &form.ListFile2, &form.ListFoundMorphs,
@@ -63,8 +64,9 @@ void weld(front::Session& session, FormPZ2Combine& form) {
   front::CommonDialog& dialog = form.CommonDialogSave;
   const std::string proposed = dialog.fileName();
   if (!dialog.save(session.front, session.disk.currentFolder(), proposed, {},
-                   {"Save the welded pose as", front::kPoseFilter}))
+                   {"Save the welded pose as", front::kPoseFilter})) {
     return;
+  }
   session.disk.replace(result, dialog.fileName());
   session.front.tellOf({.path = dialog.fileName()});
   session.unload(form);

@@ -40,6 +40,8 @@ void forgetMeshInView(Workshop& workshop) {
   workshop.byGroups = false;
   form.AddMode = false;
   form.RenamesPending = false;
+  form.GroupsAsRead.clear();
+  form.MaterialsAsRead.clear();
   form.MapDrawn = 0;
   form.MapSaved = 0;
   hideTools(form);

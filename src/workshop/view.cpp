@@ -40,6 +40,8 @@ void forgetMesh(Workshop& workshop) {
   workshop.form.MapSaved = 0;
   workshop.form.ListGroups.clear();
   workshop.form.ListMaterials.clear();
+  workshop.form.GroupsAsRead.clear();
+  workshop.form.MaterialsAsRead.clear();
 }
 
 void refreshFlatViews(front::FormOBJ& form) {

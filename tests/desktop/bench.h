@@ -26,6 +26,8 @@ class ScriptedAsker : public Asker {
   std::vector<File> files;
   std::deque<front::Answer> answers;
   std::deque<std::optional<QString>> paths;
+  std::vector<QStringList> ways;
+  std::deque<std::optional<std::size_t>> taken;
   std::optional<front::Colour> chosenColour;
   std::function<bool(QPrinter&)> setUpPrinter;
   std::function<void()> whileAsking;
@@ -37,6 +39,14 @@ class ScriptedAsker : public Asker {
     const front::Answer answer = answers.front();
     answers.pop_front();
     return answer;
+  }
+  std::optional<std::size_t> way(const Box& asked, const QStringList& offered) override {
+    boxes.push_back(asked);
+    ways.push_back(offered);
+    if (taken.empty()) return std::nullopt;
+    const auto way = taken.front();
+    taken.pop_front();
+    return way;
   }
   std::optional<QString> file(const File& file) override {
     files.push_back(file);

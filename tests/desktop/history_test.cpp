@@ -147,6 +147,15 @@ TEST_F(HistoryProgramTest, TheStatusLineOffersACopyOfAResult) {
   EXPECT_FALSE(result.text().contains(QStringLiteral("Save as ...")));
 }
 
+TEST_F(HistoryProgramTest, TheLineOfAResultTakesTheFocusWithAnActionAlone) {
+  auto& result = *window().findChild<QLabel*>(QStringLiteral("Result"));
+  EXPECT_EQ(result.focusPolicy(), Qt::NoFocus);
+  program_->session().front.tellOf({.path = "C:\\Norvik\\mirmorph.cr2", .isScratch = true});
+  EXPECT_EQ(result.focusPolicy(), Qt::StrongFocus);
+  program_->dispatcher().run("PictureOther", [] {});
+  EXPECT_EQ(result.focusPolicy(), result.text().isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
+}
+
 TEST_F(HistoryProgramTest, TheShortcutAsksAndNamesTheFile) {
   replace();
   window().findChild<QAction*>(QStringLiteral("UndoLast"))->trigger();

@@ -1,10 +1,10 @@
 // What reaches beyond the window: paper, the network, other programs, documents, sound.
 
+#include "desktop/address_catcher.h"
 #include "desktop/bench.h"
 #include "desktop/words.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QHostAddress>
@@ -19,26 +19,6 @@ namespace {
 
 struct EmptyForm : front::Form {
   EmptyForm() : Form("EmptyForm", "") {}
-};
-
-/// Takes the addresses that would go to the desktop's own programs.
-class AddressCatcher : public QObject {
-  Q_OBJECT
- public:
-  AddressCatcher() {
-    for (const char* scheme : {"http", "file"}) {
-      QDesktopServices::setUrlHandler(QString::fromLatin1(scheme), this, "take");
-    }
-  }
-  ~AddressCatcher() override {
-    for (const char* scheme : {"http", "file"}) {
-      QDesktopServices::unsetUrlHandler(QString::fromLatin1(scheme));
-    }
-  }
-  QList<QUrl> taken;
-
- public slots:
-  void take(const QUrl& address) { taken << address; }
 };
 
 /// Answers each request with the same reply.
@@ -197,5 +177,3 @@ TEST_F(OutsideTest, ASoundThatIsMissingOrNoneIsSilence) {
 }  // namespace
 
 }  // namespace norvik::desktop
-
-#include "outside_test.moc"

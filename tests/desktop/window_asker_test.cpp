@@ -3,6 +3,7 @@
 #include "desktop/window_asker.h"
 
 #include "desktop/bench.h"
+#include "desktop/when_up.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -22,21 +23,6 @@
 namespace norvik::desktop {
 
 namespace {
-
-/// Does something with the dialog of this kind as soon as it is up.
-template <typename Dialog>
-void whenUp(const std::function<void(Dialog&)>& act) {
-  constexpr int kAgain = 10;  // milliseconds
-  auto* timer = new QTimer(qApp);
-  QObject::connect(timer, &QTimer::timeout, timer, [timer, act] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) return;
-    timer->deleteLater();
-    timer->stop();
-    act(*dialog);
-  });
-  timer->start(kAgain);
-}
 
 struct BoxCase {
   int style;
@@ -172,6 +158,76 @@ TEST_F(ChooserTest, TakesAName) {
 
 TEST_F(ChooserTest, EntersAFolder) {
   EXPECT_EQ(typed(QStringLiteral("C:\\below")), std::nullopt);
+}
+
+TEST_F(ChooserTest, AFurtherButtonIsAnAnswerOfItsOwn) {
+  file_.instead = QStringLiteral("Unpack with Norvik");
+  whenUp<QFileDialog>([](QFileDialog& dialog) {
+    auto* instead = dialog.findChild<QPushButton*>(QStringLiteral("Instead"));
+    ASSERT_NE(instead, nullptr);
+    EXPECT_EQ(instead->text(), "Unpack with Norvik");
+    instead->click();
+  });
+  WindowAsker asker;
+  EXPECT_EQ(asker.file(file_), QString()) << "an empty path, and no cancel";
+}
+
+TEST_F(ChooserTest, WithoutAFurtherButtonThereIsNone) {
+  whenUp<QFileDialog>([](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.findChild<QPushButton*>(QStringLiteral("Instead")), nullptr);
+    dialog.reject();
+  });
+  WindowAsker asker;
+  EXPECT_EQ(asker.file(file_), std::nullopt);
+}
+
+/// What the operator takes of two ways, by what he does.
+std::optional<std::size_t> taken(const std::function<void(QMessageBox&)>& act) {
+  whenUp<QMessageBox>(act);
+  WindowAsker asker;
+  return asker.way({.title = QStringLiteral("Title"), .text = QStringLiteral("a < b")},
+                   {QStringLiteral("Go &left"), QStringLiteral("Go &right")});
+}
+
+QAbstractButton* buttonOf(const QMessageBox& box, const char* text) {
+  for (QAbstractButton* button : box.buttons()) {
+    if (button->text() == QString::fromLatin1(text)) return button;
+  }
+  return nullptr;
+}
+
+TEST(WindowAskerTest, AWayIsTakenByItsButton) {
+  const auto press = [](const char* text) {
+    return [text](QMessageBox& box) {
+      EXPECT_EQ(box.windowTitle(), "Title");
+      EXPECT_EQ(box.text(), "a < b");
+      EXPECT_EQ(box.buttons().size(), 3);
+      buttonOf(box, text)->click();
+    };
+  };
+  EXPECT_EQ(taken(press("Go &left")), 0U);
+  EXPECT_EQ(taken(press("Go &right")), 1U);
+  EXPECT_EQ(taken(press("&Close")), std::nullopt);
+}
+
+TEST(WindowAskerTest, ToTakeNoWayIsTheDefault) {
+  for (const auto key : {Qt::Key_Return, Qt::Key_Escape}) {
+    EXPECT_EQ(taken([key](QMessageBox& box) {
+                EXPECT_EQ(box.defaultButton(), buttonOf(box, "&Close"));
+                QTest::keyClick(&box, key);
+              }),
+              std::nullopt);
+  }
+  EXPECT_EQ(taken([](QMessageBox& box) { box.close(); }), std::nullopt);
+}
+
+TEST(WindowAskerTest, AWayIsTakenByTheKeyboard) {
+  EXPECT_EQ(taken([](QMessageBox& box) {
+              QAbstractButton* right = buttonOf(box, "Go &right");
+              right->setFocus();
+              QTest::keyClick(right, Qt::Key_Return);
+            }),
+            1U);
 }
 
 TEST(WindowAskerTest, AQuestionWaitsWhileTheChangesAreShown) {

@@ -23,6 +23,9 @@ FaultRows meshToolRows();
 FaultRows meshRows();
 FaultRows smallToolRows();
 
+/// The whole table.
+FaultRows allRows();
+
 /// So many lines that a file of them is written in several pieces.
 std::string manyLines(const std::string& line);
 

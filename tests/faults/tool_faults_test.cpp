@@ -20,15 +20,6 @@ std::string manyLines(const std::string& line) {
   return lines;
 }
 
-static void PrintTo(const FaultRow& row, std::ostream* out) {
-  *out << row.name;
-}
-static void PrintTo(const HostFault& fault, std::ostream* out) {
-  *out << fault.name;
-}
-
-namespace {
-
 FaultRows allRows() {
   FaultRows all;
   for (const auto rows :
@@ -38,6 +29,15 @@ FaultRows allRows() {
   }
   return all;
 }
+
+static void PrintTo(const FaultRow& row, std::ostream* out) {
+  *out << row.name;
+}
+static void PrintTo(const HostFault& fault, std::ostream* out) {
+  *out << fault.name;
+}
+
+namespace {
 
 using Case = std::tuple<FaultRow, HostFault>;
 

@@ -20,6 +20,7 @@ namespace norvik::install {
 namespace {
 
 using tests::deflatedPart;
+using tests::packedPart;
 using tests::zipBytes;
 using tests::ZipPart;
 using Names = std::vector<std::string>;
@@ -39,10 +40,12 @@ class UnpackTest : public testing::Test {
     drive_.makeFolder("Norvik/cr2install");
   }
 
+  Unpacking unpacking(const UnpackLimits& limits = {}) {
+    return {workbench_.session(), "C:\\doll.zip", "C:\\Norvik\\cr2install", limits};
+  }
   Unpacked unpack(const std::string& zip, const UnpackLimits& limits = {}) {
     drive_.write("doll.zip", zip);
-    const Unpacked outcome =
-        unpackZip(workbench_.session(), "C:\\doll.zip", "C:\\Norvik\\cr2install", limits);
+    const Unpacked outcome = unpacking(limits).withFolders();
     std::filesystem::remove(drive_.path("doll.zip"));
     EXPECT_FALSE(drive_.exists("Norvik/unpack.tmp"));
     EXPECT_EQ(drive_.read("outside.txt"), "outside");
@@ -210,6 +213,89 @@ TEST_F(UnpackTest, BytesBeyondTheLimitThatNobodyAnnouncedAreTakenAway) {
   EXPECT_EQ(read("first.txt"), "mine");
 }
 
+constexpr std::size_t kMany = 4000;  // which is 1,032,001 bytes, in about 6,500
+
+TEST_F(UnpackTest, AZipThatUnpacksToTooManyTimesItsSizeIsRefused) {
+  const std::vector<ZipPart> parts{{"a", "1"}, packedPart("much.txt", kMany, -1)};
+  const std::size_t packed = zipBytes(parts).size();
+  const std::uint64_t unpacked = 1 + 1 + 258 * kMany;
+  UnpackLimits limits;
+  limits.ratio = unpacked / packed;  // rounded down
+  limits.anyway = packed * limits.ratio;
+  EXPECT_GT(limits.ratio, 150U);
+  EXPECT_LT(limits.anyway, unpacked);
+  EXPECT_EQ(unpack(parts, limits), Unpacked::tooDense);
+  EXPECT_EQ(staged(), Names{});
+  limits.anyway = unpacked - 1;
+  EXPECT_EQ(unpack(parts, limits), Unpacked::tooDense);
+  limits.anyway = unpacked;
+  EXPECT_EQ(unpack(parts, limits), Unpacked::done) << "so much may be in any zip";
+  limits.anyway = 0;
+  ++limits.ratio;
+  EXPECT_EQ(unpack(parts, limits), Unpacked::done);
+}
+
+TEST_F(UnpackTest, ARatioThatNobodyAnnouncedEndsTheUnpacking) {
+  drive_.write("Norvik/cr2install/first.txt", "mine");
+  UnpackLimits limits;
+  limits.ratio = 100;
+  limits.anyway = 0;
+  EXPECT_EQ(
+      unpack({{"first.txt", "1"}, packedPart("much.txt", kMany, 5), {"last.txt", "3"}}, limits),
+      Unpacked::tooDense);
+  EXPECT_EQ(staged(), Names{"first.txt"});
+  EXPECT_EQ(read("first.txt"), "mine");
+}
+
+TEST_F(UnpackTest, ATextOfOneLetterIsNotMet) {
+  UnpackLimits limits;
+  limits.anyway = 0;
+  EXPECT_EQ(unpack({packedPart("much.txt", kMany, -1)}, limits), Unpacked::done);
+  EXPECT_EQ(read("much.txt"), std::string(1 + 258 * kMany, 'x'));
+}
+
+TEST_F(UnpackTest, ASmallZipOfHundredMegabytesIsRefused) {
+  const auto bomb = [](std::int64_t size) {
+    return std::vector<ZipPart>{{"a", "1"}, deflatedPart("bomb.txt", "x", size)};
+  };
+  EXPECT_EQ(unpack(bomb(100'000'000)), Unpacked::tooDense);
+  EXPECT_EQ(staged(), Names{});
+  EXPECT_EQ(unpack(bomb(99'999'999)), Unpacked::done) << "what it says may not even be true";
+}
+
+TEST_F(UnpackTest, NamesOfVeryManyFoldersAreLeftOut) {
+  const auto deep = [](std::size_t folders) {
+    std::string name;
+    for (std::size_t i = 0; i < folders; ++i) name += "a/";
+    return name;
+  };
+  EXPECT_EQ(unpack({{deep(63) + "in", "1"},
+                    {deep(64) + "out", "2"},
+                    {deep(65), "", kFolder},
+                    {deep(30000) + "far out", "3"}}),
+            Unpacked::done);
+  EXPECT_EQ(staged(), Names{deep(63) + "in"});
+  EXPECT_FALSE(drive_.exists("Norvik/cr2install/" + deep(64)));
+}
+
+TEST_F(UnpackTest, NoFoldersStayOfEntriesThatAreRefused) {
+  const std::string tooLong(300, 'n');
+  EXPECT_EQ(unpack({{"new/er/" + tooLong, "1"},
+                    {"new/", "", kFolder},
+                    {"new/est/" + tooLong + "/a", "2"},
+                    {"other/" + tooLong + "/", "", kFolder},
+                    {"file", "3"},
+                    {"FILE/below", "4"},
+                    {"a/b/file", "5"},
+                    {"a/b/file/c/d", "6"}}),
+            Unpacked::done);
+  EXPECT_EQ(staged(), (Names{"a/b/file", "file"}));
+  EXPECT_TRUE(drive_.exists("Norvik/cr2install/new")) << "an entry of its own";
+  EXPECT_FALSE(drive_.exists("Norvik/cr2install/new/er"));
+  EXPECT_FALSE(drive_.exists("Norvik/cr2install/new/est"));
+  EXPECT_FALSE(drive_.exists("Norvik/cr2install/other"));
+}
+
 TEST_F(UnpackTest, WhatStandsThereKeepsItsBytesUnderANumber) {
   drive_.write("Norvik/cr2install/Skin.tif", "old");
   drive_.write("Norvik/cr2install/maps/a", "older");
@@ -262,12 +348,8 @@ TEST_F(UnpackTest, AMissingFolderIsMade) {
   EXPECT_EQ(staged(), Names{"a"});
 }
 
-TEST_F(UnpackTest, AMissingZipIsAnError) {
-  EXPECT_EQ(tests::errorNumber([&] {
-              unpackZip(workbench_.session(), "C:\\nowhere\\doll.zip", "C:\\Norvik\\cr2install");
-            }),
-            0)
-      << "it is no zip file";
+TEST_F(UnpackTest, AMissingZipIsNoZip) {
+  EXPECT_EQ(tests::errorNumber([&] { EXPECT_EQ(unpacking().withFolders(), Unpacked::noZip); }), 0);
 }
 
 TEST_F(UnpackTest, WhatARunLeftIsTakenAwayByTheNext) {

@@ -43,6 +43,27 @@ void describe(Record& header, const ZipPart& part) {
   header.two(part.name.size()).two(0);
 }
 
+/// A deflated stream: codes have their first bit first, numbers their lowest.
+class Bits {
+ public:
+  void code(unsigned value, int size) {
+    while (size-- > 0) bit(value >> static_cast<unsigned>(size) & 1U);
+  }
+  void bit(unsigned value) {
+    if (free_ == 0) bytes_ += '\0';
+    free_ = free_ == 0 ? 7 : free_ - 1;
+    const unsigned at = 7U - static_cast<unsigned>(free_);
+    bytes_.back() = static_cast<char>(static_cast<unsigned char>(bytes_.back()) | value << at);
+  }
+  const std::string& bytes() const { return bytes_; }
+
+ private:
+  std::string bytes_;
+  int free_ = 0;
+};
+
+constexpr unsigned kDeflated = 8;
+
 }  // namespace
 
 std::string zipBytes(const std::vector<ZipPart>& parts) {
@@ -79,11 +100,29 @@ std::string deflated(const std::string& bytes) {
 }
 
 ZipPart deflatedPart(const std::string& name, const std::string& bytes, std::int64_t size) {
-  constexpr unsigned kDeflated = 8;
   ZipPart part{name, deflated(bytes)};
   part.method = kDeflated;
   part.size = size < 0 ? static_cast<std::int64_t>(bytes.size()) : size;
   part.checksum = graphics::crc32(bytes);
+  return part;
+}
+
+ZipPart packedPart(const std::string& name, std::size_t times, std::int64_t size) {
+  constexpr unsigned kX = 0x30 + 'x';      // in the fixed code, where every letter has eight bits
+  constexpr unsigned k258AsBefore = 0xC5;  // a copy of 258 bytes; its distance follows
+  Bits stream;
+  for (const unsigned bit : {1U, 1U, 0U}) stream.bit(bit);  // the last block, in the fixed code
+  stream.code(kX, 8);
+  for (std::size_t i = 0; i < times; ++i) {
+    stream.code(k258AsBefore, 8);
+    stream.code(0, 5);  // a distance of 1
+  }
+  stream.code(0, 7);  // the end
+  ZipPart part{name, stream.bytes()};
+  const std::string unpacked(1 + 258 * times, 'x');
+  part.method = kDeflated;
+  part.size = size < 0 ? static_cast<std::int64_t>(unpacked.size()) : size;
+  part.checksum = graphics::crc32(unpacked);
   return part;
 }
 

@@ -24,6 +24,9 @@ std::string zipBytes(const std::vector<ZipPart>& parts);
 /// Bytes as a deflated stream that packs nothing.
 std::string deflated(const std::string& bytes);
 
+/// An entry of 1 + 258 `times` bytes "x", some 158 of them in one; it says any size of itself.
+ZipPart packedPart(const std::string& name, std::size_t times, std::int64_t size);
+
 /// An entry of deflated bytes that says any size of itself.
 ZipPart deflatedPart(const std::string& name, const std::string& bytes, std::int64_t size);
 

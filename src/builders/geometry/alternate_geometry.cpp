@@ -95,8 +95,10 @@ std::optional<std::string> askForGeometry(front::Session& session) {
   front::CommonDialog& dialog = session.opening.CommonDialog4;
   dialog.setFileName("");
   const std::string folder = session.settings.get("Startup", "PLoc", "0") + "Runtime\\Geometries";
-  if (!dialog.open(session.front, folder, "Open Alternate Geometry OBJ", {{}, front::kMeshFilter}))
+  if (!dialog.open(session.front, folder, "Open Alternate Geometry OBJ",
+                   {{}, front::kMeshFilter})) {
     return std::nullopt;
+  }
   if (!text::holds(dialog.fileName(), "Geometries")) return std::nullopt;
   return dialog.fileName();
 }

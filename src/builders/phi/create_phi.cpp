@@ -41,8 +41,9 @@ void createPhi(front::Session& session, FormPhi& form) {
   front::Opening& opening = session.opening;
   front::CommonDialog& dialog = opening.CommonDialog1;
   if (!dialog.open(session.front, session.disk.currentFolder(), {},
-                   {"Make a phi file of a figure", front::kCharacterFilter}))
+                   {"Make a phi file of a figure", front::kCharacterFilter})) {
     return;
+  }
   std::string figure = dialog.fileName();
   if (text::extension(figure) != "cr2") {
     session.front.messageBox("Wrong file type!", "Error!", front::kOk);

@@ -1,6 +1,7 @@
 #include "builders/phi/cut_branch.h"
 
 #include "builders/phi/phi_lister.h"
+#include "front/stoppable_pass.h"
 #include "text/columns.h"
 #include "text/line_starts.h"
 #include "text/rewrite_pass.h"
@@ -61,16 +62,19 @@ void cutBranch(front::Session& session, FormTree& form) {
   const std::string mesh = opening.LabelOBJFileName.caption();
   const std::string scratch = opening.inProgramFolder(kScratch);
   session.hourglass(true);
-  text::RewritePass pass(session.disk, mesh, scratch);
-  BranchCut cut(pass.out(), names);
-  pass.in().handOnLines({}, [&cut](std::string_view lines) { cut.add(lines); });
-  pass.finish();
+  front::runStoppable(session.front, [&] {
+    text::RewritePass pass(session.disk, mesh, scratch);
+    BranchCut cut(pass.out(), names);
+    pass.in().handOnLines({}, [&cut](std::string_view lines) { cut.add(lines); });
+    pass.finish();
+  });
   session.hourglass(false);
 
   front::CommonDialog& dialog = opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), mesh, {},
-                   {"Save the mesh without the branch", front::kMeshFilter}))
+                   {"Save the mesh without the branch", front::kMeshFilter})) {
     return;
+  }
   text::ignoringErrors([&] { store(session, scratch, dialog.fileName()); });
   opening.LabelOBJFileName.setCaption(dialog.fileName());
   session.unload(form);

@@ -49,8 +49,9 @@ bool haveFigure(front::Session& session) {
   front::CommonDialog& dialog = opening.CommonDialog1;
   dialog.setFileName({});
   if (!dialog.open(session.front, session.disk.currentFolder(), {},
-                   {"Open the figure that the mesh belongs to", front::kCharacterFilter}))
+                   {"Open the figure that the mesh belongs to", front::kCharacterFilter})) {
     return false;
+  }
   opening.LabelFileNameForEditor.setCaption(dialog.fileName());
   return true;
 }

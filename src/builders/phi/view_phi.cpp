@@ -15,8 +15,9 @@ void wireViewPhi(front::Session& session, FormPhi& form) {
   session.opening.MenuViewPhi.clicked.add([&session, &form] {
     front::CommonDialog& dialog = session.opening.CommonDialog8;
     if (!dialog.open(session.front, session.disk.currentFolder(), {},
-                     {"View a phi file", front::kPhiFilter}))
+                     {"View a phi file", front::kPhiFilter})) {
       return;
+    }
     showPhi(session, form, dialog.fileName());
   });
 }

@@ -43,8 +43,9 @@ void PZ3AVI(front::Session& session) {
   front::Opening& opening = session.opening;
   front::CommonDialog& dialog = opening.CommonDialog1;
   if (!dialog.open(session.front, session.disk.currentFolder(), "Open PZ3 File",
-                   {{}, front::kSceneFilter}))
+                   {{}, front::kSceneFilter})) {
     return;
+  }
   const std::string scene = dialog.fileName();
   const std::string scratch = opening.inProgramFolder(kScratch);
   text::keepApart(session.disk, scene, scratch);

@@ -43,8 +43,9 @@ void convert(front::Session& session) {
   const std::string proposed = text::throughFirstDot(opening.OpenedPath, "cr2");
   const std::string folder = session.disk.currentFolder();
   if (!dialog.save(session.front, folder, proposed, "Name To Save As...",
-                   {{}, front::kCharacterFilter}))
+                   {{}, front::kCharacterFilter})) {
     return;
+  }
   session.hourglass(true);
   if (holdsRefusedFigure(text::LineReader(session.disk, opening.OpenedPath))) {
     session.hourglass(false);

@@ -3,6 +3,7 @@
 #include "channels/actor_block.h"
 #include "channels/dials/reorder_item.h"
 #include "channels/dials/reorder_lists.h"
+#include "front/stoppable_pass.h"
 #include "text/line_search.h"
 
 #include <optional>
@@ -141,14 +142,16 @@ void reorder(front::Session& session) {
   }
   const std::string scratch = opening.inProgramFolder(kScratch);
   session.hourglass(true);
-  Reorder(session.disk, opening.OpenedPath, scratch).run(channels);
+  front::runStoppable(session.front,
+                      [&] { Reorder(session.disk, opening.OpenedPath, scratch).run(channels); });
   hideReorderLists(opening);
   session.hourglass(false);
   const front::ResultOffer offer(session, scratch, opening.OpenedPath);
   front::CommonDialog& dialog = opening.CommonDialog2;
   if (!dialog.save(session.front, session.disk.currentFolder(), opening.OpenedPath, {},
-                   {"Save the figure with its channels in the new order", front::kFigureFilter}))
+                   {"Save the figure with its channels in the new order", front::kFigureFilter})) {
     return;
+  }
   session.disk.replace(scratch, dialog.fileName());
 }
 

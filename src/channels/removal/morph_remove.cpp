@@ -4,6 +4,7 @@
 #include "channels/removal/scratch_turns.h"
 #include "channels/removal/trash.h"
 #include "figure/save_path.h"
+#include "front/stoppable_pass.h"
 #include "text/columns.h"
 
 namespace norvik::channels {
@@ -57,8 +58,11 @@ bool removeSelected(front::Session& session, ScratchTurns& turns, Removed& remov
     session.hourglass(true);
     // Opened before the scratch file is touched: a missing figure makes none.
     static_cast<void>(session.disk.openForReading(turns.input()));
-    text::RewritePass pass(session.disk, turns.input(), turns.output());
-    const bool found = removeItem(session, pass, removed.last, actor);
+    bool found = false;
+    front::runStoppable(session.front, [&] {
+      text::RewritePass pass(session.disk, turns.input(), turns.output());
+      found = removeItem(session, pass, removed.last, actor);
+    });
     session.hourglass(false);
     if (!found) {
       session.front.messageBox("This is a Full Body Morph, it cannot be removed!", "Error!",

@@ -6,6 +6,7 @@
 #include "figure/actor_entry.h"
 #include "figure/caption.h"
 #include "figure/save_path.h"
+#include "front/stoppable_pass.h"
 #include "text/columns.h"
 
 #include <optional>
@@ -66,8 +67,10 @@ void removeParts(front::Session& session) {
   }
   session.hourglass(true);
   for (const int index : opening.ListActors.selection()) {
-    text::RewritePass pass(session.disk, turns.input(), turns.output());
-    removePart(pass, figure::actorName(opening.ListActors.item(index)));
+    front::runStoppable(session.front, [&] {
+      text::RewritePass pass(session.disk, turns.input(), turns.output());
+      removePart(pass, figure::actorName(opening.ListActors.item(index)));
+    });
     turns.next();
   }
   session.hourglass(false);

@@ -8,13 +8,13 @@
 
 #include <cstdint>
 
-class QLabel;
 class QMainWindow;
 
 namespace norvik::desktop {
 
 /// In the menu View: History... and the undo of the last replacement, by Ctrl+Z outside of text
-/// boxes. In the status bar: what has just been replaced, with a link that puts it back.
+/// boxes. In the status bar, and in that of the mesh workshop: what has just been replaced, with a
+/// link that puts it back; and where one act has replaced several files, a link to the list of all.
 class HistoryTools {
  public:
   HistoryTools(Restorer restorer, QMainWindow& window);
@@ -24,14 +24,17 @@ class HistoryTools {
 
  private:
   void addToMenu(QMainWindow& window);
-  void addToStatusBar(QMainWindow& window);
   void tell(const text::HistoryEntry& entry);
+  void tellAll(const QString& news);
+  void follow(const QString& link);
   void showWindow(QMainWindow& window);
 
   Restorer restorer_;
-  QPointer<QLabel> news_;
+  QPointer<QMainWindow> window_;
   QPointer<HistoryWindow> list_;
-  std::uint64_t last_ = 0;  ///< the entry that the link puts back
+  std::uint64_t last_ = 0;     ///< the entry that the link puts back
+  std::uint64_t handler_ = 0;  ///< in which that was lost
+  int others_ = 0;             ///< that were kept in the same one
 };
 
 }  // namespace norvik::desktop

@@ -22,6 +22,9 @@ class Restorer {
   text::History* history() const { return session_.disk.history(); }
   front::Session& session() const { return session_; }
 
+  /// The handlers that ran so far: what is lost in the course of one belongs together.
+  std::uint64_t handlers() const { return dispatcher_.delivered(); }
+
   /// Whether the version is back.
   bool restore(std::uint64_t number);
   /// Asks, naming the file, and puts the newest version back.

@@ -1,4 +1,5 @@
 #include "desktop/window/headings.h"
+#include "desktop/window/scale_note.h"
 #include "desktop/window/tool_strip.h"
 
 #include <QGroupBox>
@@ -6,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSlider>
+#include <QVBoxLayout>
 
 namespace norvik::desktop {
 
@@ -14,8 +16,11 @@ namespace {
 class Row {
  public:
   Row(Maker& maker, QWidget& parent) : maker_(maker), widget_(new QWidget(&parent)) {
-    line_ = new QHBoxLayout(widget_);
-    line_->setContentsMargins(kPaneMargin, 4, kPaneMargin, 0);
+    column_ = new QVBoxLayout(widget_);
+    column_->setContentsMargins(kPaneMargin, 4, kPaneMargin, 0);
+    column_->setSpacing(2);
+    line_ = new QHBoxLayout;
+    column_->addLayout(line_);
   }
 
   /// An entry with a word in front of it.
@@ -46,6 +51,9 @@ class Row {
     line_->addWidget(&group);
   }
 
+  QWidget& widget() { return *widget_; }
+  void addBelow(QWidget& widget) { column_->addWidget(&widget); }
+
   QWidget* finish() {
     line_->addStretch();
     return widget_;
@@ -54,6 +62,7 @@ class Row {
  private:
   Maker& maker_;
   QWidget* widget_;
+  QVBoxLayout* column_;
   QHBoxLayout* line_;
 };
 
@@ -67,6 +76,7 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   row.add(opening.CheckOBJBatch);
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
   row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
+  row.addBelow(*new ScaleNote(maker, opening, row.widget()));
   QWidget* widget = row.finish();
   maker.showWhileAny(*widget,
                      {&opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,

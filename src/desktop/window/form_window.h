@@ -27,6 +27,8 @@ class FormWindow : public QDialog {
   /// A handler has come to its end.
   virtual void rest() {}
   virtual void setProgress(std::uint64_t, std::uint64_t) {}
+  /// Says something until the next work begins or ends.
+  virtual void say(const QString&) {}
 
  protected:
   Maker& maker() const { return maker_; }

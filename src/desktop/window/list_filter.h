@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <functional>
+
 class QLabel;
 class QLineEdit;
 
@@ -18,25 +20,42 @@ class ListFilter : public QWidget {
  public:
   ListFilter(front::ListBox& list, ListView& view, QWidget& parent);
 
+  /// A view that narrows itself.
+  struct Narrowed {
+    QWidget& view;
+    QString name;                                ///< of what it lists, as in "Filter.ListGroups"
+    std::function<void(const QString&)> narrow;  ///< shows what holds a text
+    std::function<QString()> told;               ///< how much that is; empty while all is shown
+  };
+  /// One that is there whenever its view is.
+  ListFilter(Narrowed narrowed, QWidget& parent);
+
   /// Shows the line and takes the keys.
   void open();
   /// Shows all items again and goes back to the list.
   void dismiss();
+  /// Says anew how much is shown.
+  void count();
 
-  const front::ListBox& list() const { return list_; }
-  const ListView& view() const { return view_; }
+  const front::ListBox* list() const { return list_; }
+  const QWidget& view() const { return narrowed_.view; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void count();
+  void followView(const QEvent& event);
 
-  front::ListBox& list_;
-  ListView& view_;
+  front::ListBox* list_ = nullptr;
+  Narrowed narrowed_;
+  bool stays_;
   QLineEdit* edit_;
   QLabel* count_;
 };
+
+/// How much of a list its filter lets through, and how much of what is selected it keeps back; an
+/// empty text without a filter.
+QString toldOf(const front::ListBox& list, const ListView& view);
 
 /// Opens the filter in whose part of the window the keys are, else that of a list; none whose list
 /// is not on view. Without a list it is the first one on view.

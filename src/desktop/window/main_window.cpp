@@ -68,14 +68,17 @@ MainWindow::MainWindow(Maker& maker, front::Session& session, DesktopFrontEnd& f
   setMinimumSize(720, 480);
   makeMenus();
   addToolBar(makeToolStrip(maker_, opening_, *this));
-  status_ = std::make_unique<StatusLine>(maker_, opening_, *statusBar());
   frontEnd_.setResultListener([this](const front::FinishedFile& file) { tellOf(file); });
   frontEnd_.setPassTextListener([this](std::string_view text) { status_->say(shown(text)); });
   makeCentre();
+  status_ = std::make_unique<StatusLine>(maker_, opening_, frontEnd_.passStop(), *statusBar());
   bindTheRest();
   listenToMenus();
   resize(1080, 760);
   sync();
+  // The keyboard begins where the work does.
+  auto* parts = findChild<QWidget*>(QString::fromStdString(opening_.ListActors.name()));
+  if (parts != nullptr) parts->setFocus();
 }
 
 MainWindow::~MainWindow() {

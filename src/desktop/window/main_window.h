@@ -29,6 +29,7 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   void setBusy(bool busy) { status_->setBusy(busy); }
+  void say(const QString& text) { status_->say(text); }
   void setProgress(std::uint64_t position, std::uint64_t size) {
     status_->setProgress(position, size);
   }

@@ -1,11 +1,15 @@
 #include "desktop/bind/label_button.h"
 #include "desktop/bind/text_binding.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/mesh_panes.h"
+#include "desktop/window/name_keys.h"
 #include "desktop/window/name_listing.h"
+#include "desktop/window/pending_list.h"
 #include "desktop/window/template_size.h"
 
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -29,6 +33,25 @@ struct Side {
   NameKind kind;
 };
 
+/// The line above the names narrows all that lists them, but for those to be saved.
+QWidget* makeFilter(const Side& side, NameListing& listing, ListView& names, QWidget& parent) {
+  auto* filter = new ListFilter({listing, QString::fromStdString(side.names.name()),
+                                 [&listing, &names](const QString& text) {
+                                   listing.narrow(text);
+                                   names.setFilter(text);
+                                 },
+                                 [&side = side.names, &listing, &names] {
+                                   return names.isVisible() ? toldOf(side, names) : listing.told();
+                                 }},
+                                parent);
+  listing.setFilled([filter] { filter->count(); });
+  QObject::connect(names.model(), &QAbstractItemModel::modelReset, filter,
+                   [filter] { filter->count(); });
+  QObject::connect(names.selectionModel(), &QItemSelectionModel::selectionChanged, filter,
+                   [filter] { filter->count(); });
+  return filter;
+}
+
 QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, const char* name) {
   auto* page = new QPlainTextEdit(&parent);
   page->setAccessibleName(QString::fromLatin1(name));
@@ -36,20 +59,28 @@ QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, con
   return *page;
 }
 
-QVBoxLayout* makeSide(Maker& maker, front::Session& session, const Side& side, QWidget& parent) {
+QVBoxLayout* makeSide(Maker& maker, front::Session& session, front::FormOBJ& form, const Side& side,
+                      QWidget& parent) {
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   const QString word = QString::fromLatin1(side.word);
-  column->addWidget(new NameListing(maker, session, side.listing, side.kind, parent), 1);
-  for (front::ListBox* list : {&side.names, &side.saved}) {
-    auto& view = maker.list(*list, parent);
-    view.setAccessibleName(word);
-    column->addWidget(&view, 1);
-  }
+  auto* listing = new NameListing(maker, session, side.listing, side.kind, parent);
+  ListView& names = maker.list(side.names, parent);
+  names.setAccessibleName(word);
+  new NameKeys(maker, side.names, side.newName, names);
+  ListView& saved = maker.list(side.saved, parent);
+  saved.setAccessibleName(word + QStringLiteral(" to save"));
+  column->addWidget(makeFilter(side, *listing, names, parent));
+  column->addWidget(listing, 1);
+  column->addWidget(&names, 1);
+  column->addWidget(&saved, 1);
   auto& entry = maker.line(side.newName, parent);
   entry.setPlaceholderText(QStringLiteral("New name"));
   entry.setAccessibleName(QStringLiteral("New name"));
   column->addWidget(&entry);
+  const auto kind =
+      side.kind == NameKind::group ? PendingList::Kind::groups : PendingList::Kind::materials;
+  column->addWidget(new PendingList(maker, form, kind, parent));
   column->addWidget(maker.make(side.save, parent));
   return column;
 }
@@ -82,12 +113,12 @@ QWidget* makeMeshLists(Maker& maker, front::Session& session, front::FormOBJ& fo
   }
   column->addLayout(commands);
   auto* sides = new QHBoxLayout;
-  sides->addLayout(makeSide(maker, session,
+  sides->addLayout(makeSide(maker, session, form,
                             {form.RichTextBoxGroups, form.ListGroups, form.ListGroupsSave,
                              form.TextGrpRename, form.CheckSaveGroups, "Groups", NameKind::group},
                             *panel));
   sides->addLayout(
-      makeSide(maker, session,
+      makeSide(maker, session, form,
                {form.RichTextBoxMaterials, form.ListMaterials, form.ListMaterialsSave,
                 form.TextMatRename, form.CheckSaveMaterials, "Materials", NameKind::material},
                *panel));

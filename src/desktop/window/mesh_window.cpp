@@ -1,7 +1,10 @@
 #include "desktop/window/mesh_window.h"
 
 #include "desktop/elided_label.h"
+#include "desktop/history/history_news.h"
+#include "desktop/link_line.h"
 #include "desktop/window/headings.h"
+#include "desktop/window/list_filter.h"
 #include "desktop/window/mesh_panes.h"
 #include "desktop/window/view_stack.h"
 #include "desktop/words.h"
@@ -16,6 +19,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -29,11 +33,19 @@ namespace {
 constexpr int kSideWidth = 380;
 constexpr int kPermille = 1000;
 
+/// Whether Space ticks a row there.
+bool takesTicks(const QObject* watched) {
+  const auto* rows = qobject_cast<const QAbstractItemView*>(watched);
+  return rows != nullptr && rows->currentIndex().flags().testFlag(Qt::ItemIsUserCheckable);
+}
+
 }  // namespace
 
 MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& form,
                        DesktopFrontEnd& frontEnd, std::function<void()> unload, QWidget* parent)
-    : FormWindow(maker, form, std::move(unload), parent), mesh_(form) {
+    : FormWindow(maker, form, std::move(unload), parent),
+      mesh_(form),
+      passStop_(frontEnd.passStop()) {
   setWindowFlags(Qt::Window | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -57,6 +69,8 @@ MeshWindow::MeshWindow(Maker& maker, front::Session& session, front::FormOBJ& fo
   column->addLayout(middle, 1);
   column->addWidget(makeStatus(session, form));
   keepTheKeys();
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
+          [this] { openFilter(*this); });
   setBusy(false);
 }
 
@@ -105,6 +119,7 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   line->addWidget(&maker().label(form.LabelWait, *bar));
   state_ = new QLabel(bar);
   line->addWidget(state_);
+  line->addWidget(makeHistoryNews(*bar));
   progress_ = new QProgressBar(bar);
   progress_->setObjectName(QStringLiteral("MeshProgress"));
   progress_->setAccessibleName(QStringLiteral("Progress"));
@@ -112,6 +127,8 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   progress_->setTextVisible(false);
   progress_->setFixedSize(kProgressWidth, 10);
   line->addWidget(progress_);
+  cancel_ = &passStop_.addButton(*bar);
+  line->addWidget(cancel_);
   return bar;
 }
 
@@ -130,6 +147,11 @@ void MeshWindow::setProgress(std::uint64_t position, std::uint64_t size) {
   if (size < kLarge || state_->text().isEmpty()) return;
   progress_->setValue(static_cast<int>(std::min(position, size) * kPermille / size));
   progress_->show();
+  cancel_->setVisible(passStop_.running());
+}
+
+void MeshWindow::say(const QString& text) {
+  state_->setText(text);
 }
 
 /// Lists would look for an item that begins with the key, and an option would be chosen by a blank;
@@ -149,7 +171,7 @@ bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return FormWindow::eventFilter(watched, event);
   if (uncover(*static_cast<QKeyEvent*>(event))) return true;
   const std::string key = keyName(*static_cast<QKeyEvent*>(event));
-  const bool ofTheView = key == "Space" || key.size() == 1;
+  const bool ofTheView = (key == "Space" && !takesTicks(watched)) || key.size() == 1;
   return ofTheView ? deliverKey(key) : FormWindow::eventFilter(watched, event);
 }
 

@@ -6,6 +6,7 @@
 #include "front/form_obj.h"
 #include "front/session.h"
 
+class QAbstractButton;
 class QLabel;
 class QProgressBar;
 
@@ -22,6 +23,7 @@ class MeshWindow : public FormWindow {
   void setBusy(bool busy) override;
   void rest() override;
   void setProgress(std::uint64_t position, std::uint64_t size) override;
+  void say(const QString& text) override;
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -39,6 +41,8 @@ class MeshWindow : public FormWindow {
   ViewStack* views_ = nullptr;
   QLabel* state_ = nullptr;
   QProgressBar* progress_ = nullptr;
+  PassStop& passStop_;
+  QAbstractButton* cancel_ = nullptr;
   bool placed_ = false;
 };
 

@@ -70,6 +70,29 @@ void NameListing::fill() {
     row->setText(kFaces, QLocale().toString(static_cast<qulonglong>(faces)));
     row->setTextAlignment(kFaces, Qt::AlignRight | Qt::AlignVCenter);
   }
+  hideRows();
+  if (filled_) filled_();
+}
+
+void NameListing::narrow(const QString& text) {
+  wanted_ = text;
+  hideRows();
+}
+
+void NameListing::hideRows() {
+  for (int i = 0; i < topLevelItemCount(); ++i) {
+    QTreeWidgetItem& row = *topLevelItem(i);
+    row.setHidden(!row.text(kName).contains(wanted_, Qt::CaseInsensitive));
+  }
+}
+
+QString NameListing::told() const {
+  if (wanted_.isEmpty()) return {};
+  int seen = 0;
+  for (int i = 0; i < topLevelItemCount(); ++i) {
+    if (!topLevelItem(i)->isHidden()) ++seen;
+  }
+  return QStringLiteral("%1 of %2").arg(seen).arg(topLevelItemCount());
 }
 
 }  // namespace norvik::desktop

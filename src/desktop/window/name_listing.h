@@ -7,6 +7,9 @@
 
 #include <QTreeWidget>
 
+#include <functional>
+#include <utility>
+
 namespace norvik::desktop {
 
 enum class NameKind { group, material };
@@ -18,12 +21,21 @@ class NameListing : public QTreeWidget {
   NameListing(Maker& maker, front::Session& session, front::RichTextBox& page, NameKind kind,
               QWidget& parent);
 
+  /// Hides the rows whose name does not hold a text, in whatever case; an empty one shows all.
+  void narrow(const QString& text);
+  /// "3 of 40" while rows are hidden so.
+  QString told() const;
+  void setFilled(std::function<void()> filled) { filled_ = std::move(filled); }
+
  private:
   void fill();
+  void hideRows();
 
   front::Session& session_;
   front::RichTextBox& page_;
   NameKind kind_;
+  QString wanted_;  ///< that a row's name must hold
+  std::function<void()> filled_;
   std::string shownText_;
   std::vector<front::Colour> shownColours_;
 };

@@ -1,16 +1,22 @@
 #include "desktop/window/status_line.h"
 
+#include "desktop/link_line.h"
 #include "desktop/theme.h"
 #include "text/number_text.h"
 
+#include <QAbstractButton>
 #include <QLabel>
 #include <QProgressBar>
 #include <QStatusBar>
 
 namespace norvik::desktop {
 
-StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
-    : state_(new QLabel(&bar)), result_(new QLabel(&bar)), progress_(new QProgressBar(&bar)) {
+StatusLine::StatusLine(Maker& maker, front::Opening& opening, PassStop& passStop, QStatusBar& bar)
+    : state_(new QLabel(&bar)),
+      result_(new LinkLine(&bar)),
+      progress_(new QProgressBar(&bar)),
+      passStop_(passStop),
+      cancel_(passStop.addButton(bar)) {
   constexpr int kPermille = 1000;
   constexpr int kWidth = 180;
   state_->setObjectName(QStringLiteral("StatusText"));
@@ -18,8 +24,6 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
   bar.addWidget(state_);
   result_->setObjectName(QStringLiteral("Result"));
   result_->setAccessibleName(QStringLiteral("What the last tool has left"));
-  result_->setTextFormat(Qt::RichText);
-  result_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
   // A long line is cut short, and its tip tells all of it: the window stays as narrow as it may be.
   result_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   bar.addWidget(result_, 1);
@@ -37,6 +41,8 @@ StatusLine::StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar)
   progress_->setFixedSize(kWidth, 10);
   progress_->hide();
   bar.addPermanentWidget(progress_);
+  bar.addPermanentWidget(&cancel_);
+  cancel_.hide();
 
   auto& size = maker.label(opening.LabelFileSize, bar);
   size.setAccessibleName(QStringLiteral("File size"));
@@ -68,13 +74,13 @@ void StatusLine::offer(const QString& text, const QString& tip, std::vector<Resu
     line += QStringLiteral(" &nbsp;<a href=\"%1\" style=\"color: %2\">%3</a>")
                 .arg(QString::number(i), colour, actions_[i].name.toHtmlEscaped());
   }
-  result_->setText(line);
+  result_->setLine(line);
   result_->setToolTip(tip);
 }
 
 void StatusLine::withdraw() {
   actions_.clear();
-  result_->clear();
+  result_->setLine({});
   result_->setToolTip(QString());
 }
 
@@ -87,6 +93,7 @@ void StatusLine::setProgress(std::uint64_t position, std::uint64_t size) {
   if (size < kLarge) return;
   progress_->setValue(static_cast<int>(std::min(position, size) * 1000 / size));
   progress_->show();
+  cancel_.setVisible(passStop_.running());
 }
 
 }  // namespace norvik::desktop

@@ -2,17 +2,21 @@
 // The status bar.
 
 #include "desktop/maker.h"
+#include "desktop/pass_stop.h"
 #include "front/opening.h"
 
 #include <cstdint>
 #include <functional>
 #include <vector>
 
+class QAbstractButton;
 class QLabel;
 class QProgressBar;
 class QStatusBar;
 
 namespace norvik::desktop {
+
+class LinkLine;
 
 /// What can be done with a result: the link's text, and what it does.
 struct ResultAction {
@@ -23,7 +27,7 @@ struct ResultAction {
 /// What goes on, how far it is, what the last tool has left, and the size of the file.
 class StatusLine {
  public:
-  StatusLine(Maker& maker, front::Opening& opening, QStatusBar& bar);
+  StatusLine(Maker& maker, front::Opening& opening, PassStop& passStop, QStatusBar& bar);
 
   void setBusy(bool busy);
   /// Says something until the next work begins or ends.
@@ -39,9 +43,11 @@ class StatusLine {
 
  private:
   QLabel* state_;
-  QLabel* result_;
+  LinkLine* result_;
   std::vector<ResultAction> actions_;
   QProgressBar* progress_;
+  PassStop& passStop_;
+  QAbstractButton& cancel_;
 };
 
 }  // namespace norvik::desktop

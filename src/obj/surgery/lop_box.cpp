@@ -1,5 +1,6 @@
 #include "obj/surgery/lop_box.h"
 
+#include "front/stoppable_pass.h"
 #include "obj/surgery/lop_colours.h"
 #include "obj/surgery/lop_pass.h"
 #include "obj/surgery/waiting.h"
@@ -21,7 +22,7 @@ constexpr std::string_view kScratch = "\\Lop.txt";
 constexpr front::Colour kBoxBlue = 0xFF0000;
 constexpr int kBoxPen = 2;
 
-/// The flat views as they are, put back at the end, however it comes.
+/// The flat views as they are, put back at the end, however it comes, unless they are let go.
 class StoredViews {
  public:
   explicit StoredViews(front::FormOBJ& form) : form_(form) {
@@ -31,11 +32,13 @@ class StoredViews {
   StoredViews& operator=(const StoredViews&) = delete;
   ~StoredViews() {
     const auto views = form_.flatViews();
-    for (std::size_t i = 0; i < views.size(); ++i) {
+    for (std::size_t i = 0; i < surfaces_.size(); ++i) {
       views[i]->surface() = std::move(surfaces_.at(i));
       views[i]->refresh();
     }
   }
+
+  void letGo() { surfaces_.clear(); }
 
  private:
   front::FormOBJ& form_;
@@ -167,7 +170,9 @@ std::string remarkOn(const LopCount& count) {
 bool LopBox::agreesToCut(ViewMode view, const LopCorners& box) {
   const StoredViews stored(form_);
   LopCount count;
-  text::ignoringErrors([&] { count = LopPass(workshop_, view, box).preview(); });
+  front::runStoppable(workshop_.session.front, [&] {
+    text::ignoringErrors([&] { count = LopPass(workshop_, view, box).preview(); });
+  });
   for (front::PictureBox* picture : form_.flatViews()) picture->refresh();
   const front::Caution remark(workshop_.session, remarkOn(count));
   return workshop_.session.front.messageBox("Do you want to remove the mesh in this box?", "Alert!",
@@ -194,7 +199,10 @@ void LopBox::LopIt(ViewMode view, const LopCorners& box, const std::string& scra
   const Waiting waiting(form_);
   session.hourglass(true);
   text::ignoringErrors([&] { session.disk.remove(scratch); });
-  LopPass(workshop_, view, box).writeTo(scratch);
+  // Nothing is red in them if the cut does not come to its end.
+  StoredViews stored(form_);
+  front::runStoppable(session.front, [&] { LopPass(workshop_, view, box).writeTo(scratch); });
+  stored.letGo();
   session.hourglass(false);
 }
 

@@ -1,5 +1,6 @@
 #include "obj/surgery/merge.h"
 
+#include "front/stoppable_pass.h"
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/record_walk.h"
@@ -84,7 +85,7 @@ void merge(Workshop& workshop) {
   const std::string result = session.opening.inProgramFolder(kResult);
   text::ignoringErrors([&] { session.disk.remove(scratch); });
   session.hourglass(true);
-  MergePass(workshop, scratch).run();
+  front::runStoppable(session.front, [&] { MergePass(workshop, scratch).run(); });
   session.disk.replace(scratch, result);
   session.hourglass(false);
   session.opening.LabelOBJFileName.setCaption(result);
@@ -101,9 +102,11 @@ bool isMergedInView(front::Session& session) {
 void saveMerged(front::Session& session) {
   const std::string copy = session.opening.inProgramFolder(kCopy);
   session.hourglass(true);
-  text::RewritePass pass(session.disk, session.opening.inProgramFolder(kResult), copy);
-  pass.copyRest();
-  pass.finish();
+  front::runStoppable(session.front, [&] {
+    text::RewritePass pass(session.disk, session.opening.inProgramFolder(kResult), copy);
+    pass.copyRest();
+    pass.finish();
+  });
   session.hourglass(false);
   const bool saved =
       saveResult(session, copy, {}, {"Save the merged mesh", front::kMeshFilter}).has_value();

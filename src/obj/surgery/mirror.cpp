@@ -1,5 +1,6 @@
 #include "obj/surgery/mirror.h"
 
+#include "front/stoppable_pass.h"
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/obj_line.h"
@@ -86,7 +87,8 @@ void mirror(Workshop& workshop) {
   session.hourglass(true);
   // Across one axis, or all three, a face looks the other way.
   const bool turned = (axes.x != axes.y) != axes.z;
-  writeMirrored(session, axes, turned && workshop.form.TurnFacesRound);
+  front::runStoppable(
+      session.front, [&] { writeMirrored(session, axes, turned && workshop.form.TurnFacesRound); });
   session.hourglass(false);
   session.front.messageBox(
       source +
