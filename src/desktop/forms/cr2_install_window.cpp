@@ -2,6 +2,7 @@
 
 #include "desktop/bind/label_button.h"
 #include "desktop/forms/pose_parts.h"
+#include "desktop/window/escape.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/side_by_side.h"
 #include "desktop/words.h"
@@ -77,6 +78,10 @@ QLayout* Cr2InstallWindow::makeFolders() {
   column->addWidget(&name);
   maker().watch({&form_.TextNewDir}, [this, &name] {
     if (form_.TextNewDir.visible() && !name.hasFocus()) name.setFocus();
+  });
+  onEscape(name, [this, &folders] {
+    maker().dispatcher().run(form_.name(), [this] { form_.TextNewDir.hide(); });
+    folders.setFocus(Qt::OtherFocusReason);
   });
   folders.setFocus();
   return column;
