@@ -87,6 +87,7 @@ void FormOBJ::restoreStart() {
   ReadAgain = false;
   AddMode = false;
   RenamesPending = false;
+  Mark.reset();
   GroupsAsRead.clear();
   MaterialsAsRead.clear();
   LopOn = false;

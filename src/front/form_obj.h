@@ -4,12 +4,14 @@
 #include "front/choice_controls.h"
 #include "front/form.h"
 #include "front/list_box.h"
+#include "front/mesh_mark.h"
 #include "front/picture_box.h"
 #include "front/plain_controls.h"
 #include "front/rich_text.h"
 #include "front/text_controls.h"
 
 #include <array>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -60,6 +62,8 @@ class FormOBJ : public Form {
   // What only a window asks for.
 
   Event<RenameBack&> renameTakenBack{*this};
+  Event<const MarkWanted&> markWanted{*this};
+  std::shared_ptr<const MeshMark> Mark;  ///< null while nothing is marked
 
   // The views. Their surfaces have pixels while the form is loaded.
 

@@ -8,6 +8,11 @@
 
 namespace norvik::obj {
 
+/// A record, or its end, without the blanks that fill it.
+inline std::string_view withoutFilling(std::string_view record) {
+  return record.substr(0, record.find_last_not_of(' ') + 1);
+}
+
 /// Reads a record file of the program folder from its first record on.
 ///
 ///     for (RecordWalk walk(session, kVertexFile, kVertexRecordLength); walk.next();) {

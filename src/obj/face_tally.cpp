@@ -3,6 +3,8 @@
 #include "mesh/face_tokens.h"
 #include "mesh/mesh_store.h"
 #include "mesh/obj_line.h"
+#include "mesh/record_walk.h"
+#include "obj/pending_renames.h"
 #include "text/byte_reader.h"
 #include "text/columns.h"
 
@@ -24,8 +26,7 @@ FaceTally tallyFaces(front::Session& session) {
         if (material != nullptr) ++*material;
         continue;
       }
-      // The blanks that fill a record are not of the name.
-      const std::string_view line = record.substr(0, record.find_last_not_of(' ') + 1);
+      const std::string_view line = withoutFilling(record);
       if (text::begins(line, "g")) {
         group = named(tally.groups, groupName(line));
       } else {
@@ -34,6 +35,21 @@ FaceTally tallyFaces(front::Session& session) {
     }
   });
   return tally;
+}
+
+FaceCounts facesOnShow(front::Session& session, const NameSide& side) {
+  const FaceTally tally = tallyFaces(session);
+  const NamesOnShow shown(side);
+  FaceCounts counts;
+  for (const auto& [name, faces] : side.letter == 'g' ? tally.groups : tally.materials) {
+    counts[std::string{withoutFilling(shown.of(name))}] += faces;
+  }
+  return counts;
+}
+
+std::uint64_t facesOf(const FaceCounts& counts, std::string_view name) {
+  const auto found = counts.find(withoutFilling(name));
+  return found == counts.end() ? 0 : found->second;
 }
 
 }  // namespace norvik::obj

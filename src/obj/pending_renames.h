@@ -35,6 +35,22 @@ class PendingRenames {
   std::vector<Rename> renames_;
 };
 
+/// A side's names in its lists. Once one was renamed they are those of the mesh with all that
+/// waits for the rewrite; before that, and behind another View, they are the mesh's own.
+class NamesOnShow {
+ public:
+  explicit NamesOnShow(const NameSide& side)
+      : renames_(side.asRead.empty() ? std::span<const std::string>{} : side.renames.items()) {}
+
+  /// What a name of the mesh is on show as.
+  std::string of(std::string_view name) const {
+    return renames_.newName(name).value_or(std::string{name});
+  }
+
+ private:
+  PendingRenames renames_;
+};
+
 /// An entry as it is read: "neck -> throat", "tail (drop)".
 std::string renameInWords(std::string_view entry);
 

@@ -60,6 +60,7 @@
 #include "obj/make_uv.h"
 #include "obj/mash.h"
 #include "obj/name_listing.h"
+#include "obj/name_mark.h"
 #include "obj/rename_names.h"
 #include "obj/save_map.h"
 #include "obj/save_names.h"
@@ -192,6 +193,7 @@ void Workbench::wireTools() {
   obj::wireExtractGeometry(session_);
   obj::wireLeaving(workshop_);
   obj::wireNameListing(workshop_);
+  obj::wireNameMark(workshop_);
   obj::wireRenaming(workshop_);
   obj::wireSavingNames(workshop_);
   obj::wireMakeUV(workshop_);

@@ -12,9 +12,7 @@ void FaceViews::draw(std::span<const std::size_t> indexes) {
     const Position& at = vertexAt(workshop_.mesh.vertices, index);
     const bool first = corners_.count() == 0;
     corners_.add(at);
-    display_.addCorner({static_cast<float>(at.x * scale_.FactorX),
-                        static_cast<float>(at.y * scale_.FactorY),
-                        static_cast<float>(at.z * (first ? scale_.FactorY : scale_.FactorX))});
+    display_.addCorner(scale_.inSpace(at, first));
   }
   if (workshop_.form.OptionNoColors.value()) workshop_.fill = graphics::paletteColour(kPlainFill);
   corners_.draw(workshop_.form.flatViews(), workshop_.fill);

@@ -40,6 +40,7 @@ void forgetMesh(Workshop& workshop) {
   workshop.form.MapSaved = 0;
   workshop.form.ListGroups.clear();
   workshop.form.ListMaterials.clear();
+  workshop.form.Mark.reset();
   workshop.form.GroupsAsRead.clear();
   workshop.form.MaterialsAsRead.clear();
 }

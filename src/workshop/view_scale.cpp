@@ -32,6 +32,11 @@ ViewScale::ViewScale(const front::FormOBJ& form)
   FactorY = factor(form.PictureOBJViewer.box().height, height);
 }
 
+Position ViewScale::inSpace(const Position& at, bool first) const {
+  return {static_cast<float>(at.x * FactorX), static_cast<float>(at.y * FactorY),
+          static_cast<float>(at.z * (first ? FactorY : FactorX))};
+}
+
 graphics::Point ViewScale::firstFrontPoint(const Position& at) const {
   return {toPixel(width / kShare * (static_cast<double>(at.x) * FactorX) + width / 2),
           toPixel(height - static_cast<double>(at.y) * FactorY * FactorY)};

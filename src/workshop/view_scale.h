@@ -35,6 +35,9 @@ struct ViewScale {
     return {firstFrontPoint(at), firstSidePoint(at), firstTopPoint(at)};
   }
 
+  /// Where a corner goes in the 3D view.
+  Position inSpace(const Position& at, bool first) const;
+
   graphics::Point firstFrontPoint(const Position& at) const;
   graphics::Point firstSidePoint(const Position& at) const;
   graphics::Point firstTopPoint(const Position& at) const;

@@ -118,6 +118,33 @@ TEST_F(GlViewTest, BothSidesOfAFaceAreDrawn) {
   EXPECT_GT(view.grabFramebuffer().pixelColor(200, 150).red(), 190);
 }
 
+TEST_F(GlViewTest, TheMarkStandsOutWhereTheMeshHasItToo) {
+  GlDevice device(picture());
+  GlView view(device, &window);
+  view.setGeometry(0, 0, 300, 300);
+  view.show();
+  setUp(device);
+  device.setMaterial({0, 0, 1});
+  std::vector<Vertex> mesh = kRightHalf;
+  mesh.insert(mesh.end(), {at(0, -9, 0), at(0, 12, 0), at(-9, 2.5F, 0)});
+  draw(device, mesh, 1);
+  view.setMark({{0, -9, 0}, {0, 12, 0}, {9, 2.5F, 0}});
+  QTRY_VERIFY_WITH_TIMEOUT(view.counts().frames > 0, 3000);
+  const auto colourAt = [&view](int x) { return view.grabFramebuffer().pixelColor(x, 150); };
+  EXPECT_GT(colourAt(200).red(), 190);
+  EXPECT_EQ(colourAt(200).blue(), 0);
+  EXPECT_GT(colourAt(60).blue(), 190);
+  EXPECT_EQ(colourAt(60).red(), 0);
+  // A red mesh has it in blue; without it all is the mesh's own.
+  device.setMaterial({1, 0, 0});
+  draw(device, mesh, 1);
+  EXPECT_GT(colourAt(200).blue(), 190);
+  EXPECT_GT(colourAt(60).red(), 190);
+  view.setMark({});
+  EXPECT_GT(colourAt(200).red(), 190);
+  EXPECT_EQ(view.counts().uploads, 1);
+}
+
 TEST_F(GlViewTest, ASpinUploadsTheMeshOnceAndPaintsWithoutAskingForMemory) {
   constexpr std::size_t kTriangles = 200'000;
   constexpr int kWarmUp = 3;

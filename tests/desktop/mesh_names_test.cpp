@@ -211,5 +211,57 @@ TEST_F(MeshNamesTest, TheFilterNarrowsWhatIsShownAndChangesNothingElse) {
   EXPECT_EQ(filter.text(), "");
 }
 
+TEST_F(MeshNamesTest, AClickOnANameMarksItInTheViewsUntilItIsClickedAgain) {
+  auto& listing = part<QTreeWidget>("RichTextBoxGroups");
+  auto& picture = part<QWidget>("PictureStore");
+  ASSERT_TRUE(picture.isVisible());
+  const QImage before = picture.grab().toImage();
+  const std::string pixels = form().PictureStore.surface().rgbBytes();
+  const auto click = [&](int row) {
+    QTest::mouseClick(listing.viewport(), Qt::LeftButton, {},
+                      listing.visualItemRect(listing.topLevelItem(row)).center());
+  };
+  const auto bold = [&](int row) { return listing.topLevelItem(row)->font(0).bold(); };
+  click(1);
+  ASSERT_TRUE(form().Mark);
+  EXPECT_EQ(form().Mark->name, "head");
+  EXPECT_TRUE(bold(1));
+  EXPECT_FALSE(bold(0));
+  EXPECT_NE(picture.grab().toImage(), before);
+  // The picture that the tools read and save has nothing of it.
+  EXPECT_EQ(form().PictureStore.surface().rgbBytes(), pixels);
+  click(0);
+  EXPECT_EQ(form().Mark->name, "neck");
+  EXPECT_TRUE(bold(0));
+  click(0);
+  EXPECT_FALSE(form().Mark);
+  EXPECT_FALSE(bold(0));
+  EXPECT_TRUE(listing.selectedItems().isEmpty());
+  EXPECT_EQ(picture.grab().toImage(), before);
+}
+
+TEST_F(MeshNamesTest, EscapeUnmarksWhereverTheKeysAre) {
+  auto& listing = part<QTreeWidget>("RichTextBoxGroups");
+  for (QWidget* keys : {static_cast<QWidget*>(&listing), &part<QWidget>("ViewStack")}) {
+    listing.setCurrentItem(listing.topLevelItem(2));
+    QTest::keyClick(&listing, Qt::Key_Return);
+    ASSERT_TRUE(form().Mark);
+    EXPECT_EQ(form().Mark->name, "hair");
+    QTest::keyClick(keys, Qt::Key_Escape);
+    EXPECT_FALSE(form().Mark);
+  }
+  EXPECT_TRUE(workshop().isVisible());
+  // The mark of a material, and a read that takes it away.
+  dispatcher().raise(form().CommandListMats.clicked);
+  auto& materials = part<QTreeWidget>("RichTextBoxMaterials");
+  materials.setCurrentItem(materials.topLevelItem(1));
+  QTest::keyClick(&materials, Qt::Key_Return);
+  ASSERT_TRUE(form().Mark);
+  EXPECT_TRUE(form().Mark->materials);
+  dispatcher().raise(form().LabelView.clicked);
+  EXPECT_FALSE(form().Mark);
+  EXPECT_FALSE(materials.topLevelItem(1)->font(0).bold());
+}
+
 }  // namespace
 }  // namespace norvik::desktop

@@ -82,6 +82,22 @@ TEST_F(SurfaceTest, EachPixelIsShownAsItIs) {
   EXPECT_EQ(pixel(1, 0), QColor(Qt::white));
 }
 
+TEST_F(SurfaceTest, AMarkLiesOverThePictureAndIsNotInIt) {
+  form.Front.surface().setPixel({0, 0}, 0xFF0000);
+  QImage mark(40, 30, QImage::Format_RGB32);
+  mark.fill(Qt::white);
+  mark.setPixelColor(1, 0, Qt::red);
+  view->setMark(mark);
+  // Four fifths of red and one of the paper.
+  EXPECT_EQ(pixel(1, 0).red(), 255);
+  EXPECT_NEAR(pixel(1, 0).green(), 51, 1);
+  EXPECT_EQ(pixel(0, 0), QColor(Qt::blue));
+  EXPECT_EQ(pixel(2, 0), QColor(Qt::white));
+  EXPECT_EQ(form.Front.surface().pixel({1, 0}), front::kWhite);
+  view->setMark({});
+  EXPECT_EQ(pixel(1, 0), QColor(Qt::white));
+}
+
 TEST_F(SurfaceTest, ADrawingComesOnViewWhenItIsRefreshed) {
   Paints paints(*view);
   dispatcher.sync();

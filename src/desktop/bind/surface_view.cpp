@@ -50,6 +50,11 @@ void SurfaceView::follow() {
   updateGeometry();
 }
 
+void SurfaceView::setMark(const QImage& mark) {
+  mark_ = mark.isNull() ? mark : withoutWhite(mark);
+  update();
+}
+
 void SurfaceView::placeOver(QPoint offset) {
   seeThrough_ = true;
   offset_ = offset;
@@ -142,8 +147,13 @@ void SurfaceView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform,
                         box.width() * devicePixelRatioF() < surface_.width());
   const QImage image = imageOn(surface_);
-  if (!seeThrough_) return painter.drawImage(box, image);
   constexpr qreal kSolid = 0.8;
+  if (!seeThrough_) {
+    painter.drawImage(box, image);
+    painter.setOpacity(kSolid);
+    if (!mark_.isNull()) painter.drawImage(box, mark_);
+    return;
+  }
   painter.setOpacity(kSolid);
   painter.drawImage(box, withoutWhite(image));
 }

@@ -3,6 +3,7 @@
 
 #include "graphics/surface.h"
 
+#include <QImage>
 #include <QWidget>
 
 #include <optional>
@@ -24,6 +25,9 @@ class SurfaceView : public QWidget {
   /// Moves the picture from the middle, by pixels of the surface, and lets what lies below show
   /// through where it is white.
   void placeOver(QPoint offset);
+  /// Lies over the picture, as large as it is, and is clear where it is white; an empty one is
+  /// none.
+  void setMark(const QImage& mark);
   /// Takes the surface's present size for its own best.
   void follow();
 
@@ -48,6 +52,7 @@ class SurfaceView : public QWidget {
   std::optional<QPointF> moving_;  ///< where the middle button holds the picture
   QPoint offset_;
   bool seeThrough_ = false;
+  QImage mark_;
 };
 
 }  // namespace norvik::desktop

@@ -4,6 +4,8 @@
 
 #include <QOpenGLContext>
 
+#include <utility>
+
 namespace norvik::desktop {
 
 namespace {
@@ -39,6 +41,14 @@ void main() {
   colour = vec4(diffuse * light, 1.0);
 })";
 
+/// Red, and blue on a mesh that is red itself, as it is until it is spun anew.
+graphics::Material contrasting(const graphics::Material& mesh) {
+  constexpr float kMuch = 0.6F;
+  constexpr float kLittle = 0.4F;
+  if (mesh.red > kMuch && mesh.green < kLittle && mesh.blue < kLittle) return {0, 0, 1};
+  return {1, 0, 0};
+}
+
 float part(unsigned value) {
   return static_cast<float>(value) / 255.0F;
 }
@@ -59,6 +69,7 @@ void GlView::initializeGL() {
   // A widget that has come into another window begins anew.
   held_ = 0;
   capacity_ = 0;
+  markTaken_ = false;
   disconnect(context_);
   context_ = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, [this] { release(); });
   works_ = initializeOpenGLFunctions();
@@ -66,45 +77,87 @@ void GlView::initializeGL() {
   program_ = std::make_unique<QOpenGLShaderProgram>();
   works_ = program_->addShaderFromSourceCode(QOpenGLShader::Vertex, kVertexProgram) &&
            program_->addShaderFromSourceCode(QOpenGLShader::Fragment, kFragmentProgram) &&
-           program_->link() && buffer_.create() && array_.create();
+           program_->link() && mesh_.create() && mark_.create();
   if (!works_) return;
   places_ = {.world = program_->uniformLocation("world"),
              .view = program_->uniformLocation("view"),
              .projection = program_->uniformLocation("projection"),
              .diffuse = program_->uniformLocation("diffuse"),
              .shaded = program_->uniformLocation("shaded")};
-  buffer_.setUsagePattern(QOpenGLBuffer::StaticDraw);
-  array_.bind();
-  buffer_.bind();
-  glEnableVertexAttribArray(0);
-  glVertexAttribPointer(0, 3, GL_FLOAT, GL_FALSE, sizeof(GlDevice::Corner), nullptr);
-  array_.release();
-  buffer_.release();
+  for (Stock* stock : {&mesh_, &mark_}) {
+    stock->array.bind();
+    stock->buffer.bind();
+    glEnableVertexAttribArray(0);
+    glVertexAttribPointer(0, 3, GL_FLOAT, GL_FALSE, sizeof(GlDevice::Corner), nullptr);
+    stock->array.release();
+    stock->buffer.release();
+  }
 }
 
 void GlView::release() {
   if (!program_) return;
   makeCurrent();
   program_.reset();
-  buffer_.destroy();
-  array_.destroy();
+  mesh_.destroy();
+  mark_.destroy();
   works_ = false;
   doneCurrent();
+}
+
+bool GlView::Stock::create() {
+  if (!buffer.create() || !array.create()) return false;
+  buffer.setUsagePattern(QOpenGLBuffer::StaticDraw);
+  return true;
+}
+
+void GlView::Stock::destroy() {
+  buffer.destroy();
+  array.destroy();
+}
+
+void GlView::setMark(std::vector<GlDevice::Corner> corners) {
+  marked_ = std::move(corners);
+  markTaken_ = false;
+  update();
+}
+
+void GlView::takeMark() {
+  if (std::exchange(markTaken_, true) || marked_.empty()) return;
+  mark_.buffer.bind();
+  mark_.buffer.allocate(marked_.data(),
+                        static_cast<int>(marked_.size() * sizeof(GlDevice::Corner)));
+  mark_.buffer.release();
+}
+
+/// The same places through the same program come out at the same depth, so that the mark is seen
+/// just where its faces are.
+void GlView::drawMark(const GlFrame& frame) {
+  takeMark();
+  if (marked_.empty()) return;
+  glDepthFunc(GL_LEQUAL);
+  mark_.array.bind();
+  for (std::size_t i = 0; i < frame.count; ++i) {
+    GlFrame::Draw marked = frame.draws[i];
+    marked.material = contrasting(marked.material);
+    draw(marked, static_cast<int>(marked_.size()));
+  }
+  mark_.array.release();
+  glDepthFunc(GL_LESS);
 }
 
 void GlView::takeMesh() {
   if (held_ == device_.meshes()) return;
   const auto& corners = device_.corners();
   const auto bytes = static_cast<int>(corners.size() * sizeof(GlDevice::Corner));
-  buffer_.bind();
+  mesh_.buffer.bind();
   if (bytes > capacity_) {
-    buffer_.allocate(corners.data(), bytes);
+    mesh_.buffer.allocate(corners.data(), bytes);
     capacity_ = bytes;
     ++counts_.allocations;
   } else if (bytes > 0) {
-    buffer_.write(0, corners.data(), bytes);
+    mesh_.buffer.write(0, corners.data(), bytes);
   }
-  buffer_.release();
+  mesh_.buffer.release();
   held_ = device_.meshes();
   ++counts_.uploads;
 }
@@ -141,9 +194,10 @@ void GlView::paintGL() {
   const auto corners = static_cast<int>(device_.corners().size());
   if (corners == 0) return;
   program_->bind();
-  array_.bind();
+  mesh_.array.bind();
   for (std::size_t i = 0; i < frame.count; ++i) draw(frame.draws[i], corners);
-  array_.release();
+  mesh_.array.release();
+  drawMark(frame);
   program_->release();
 }
 

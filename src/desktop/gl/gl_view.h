@@ -10,6 +10,7 @@
 #include <QOpenGLWidget>
 
 #include <memory>
+#include <vector>
 
 namespace norvik::desktop {
 
@@ -27,6 +28,9 @@ class GlView : public QOpenGLWidget, protected QOpenGLFunctions_3_3_Core {
   GlView(GlDevice& device, QWidget* parent);
   ~GlView() override;
 
+  /// Triangles that stand out from the rest wherever the mesh has them too.
+  void setMark(std::vector<GlDevice::Corner> corners);
+
   const Counts& counts() const { return counts_; }
 
  protected:
@@ -36,7 +40,9 @@ class GlView : public QOpenGLWidget, protected QOpenGLFunctions_3_3_Core {
  private:
   void release();
   void takeMesh();
+  void takeMark();
   void draw(const GlFrame::Draw& draw, int corners);
+  void drawMark(const GlFrame& frame);
 
   /// The places of the program's values, asked for once.
   struct Places {
@@ -48,12 +54,23 @@ class GlView : public QOpenGLWidget, protected QOpenGLFunctions_3_3_Core {
   };
 
   GlDevice& device_;
+  /// Corners in the memory of the graphics card.
+  struct Stock {
+    QOpenGLVertexArrayObject array;
+    QOpenGLBuffer buffer{QOpenGLBuffer::VertexBuffer};
+
+    bool create();
+    void destroy();
+  };
+
   QMetaObject::Connection context_;
   bool works_ = false;
   std::unique_ptr<QOpenGLShaderProgram> program_;
   Places places_;
-  QOpenGLVertexArrayObject array_;
-  QOpenGLBuffer buffer_{QOpenGLBuffer::VertexBuffer};
+  Stock mesh_;
+  Stock mark_;
+  std::vector<GlDevice::Corner> marked_;
+  bool markTaken_ = true;
   int capacity_ = 0;        ///< of the buffer, in bytes
   std::uint64_t held_ = 0;  ///< the mesh that the buffer holds
   Counts counts_;

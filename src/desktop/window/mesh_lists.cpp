@@ -55,8 +55,22 @@ QWidget* makeFilter(const Side& side, NameListing& listing, ListView& names, QWi
 QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, const char* name) {
   auto* page = new QPlainTextEdit(&parent);
   page->setAccessibleName(QString::fromLatin1(name));
+  page->setTabChangesFocus(true);
   maker.bindings().add(std::make_unique<PageBinding>(maker.dispatcher(), box, *page));
   return *page;
+}
+
+/// A name that is clicked is marked in the views.
+void letMark(Maker& maker, front::FormOBJ& form, const Side& side, NameListing& listing) {
+  const bool materials = side.kind == NameKind::material;
+  listing.setPointedAt([&maker, &form, materials](const std::string& name) {
+    maker.dispatcher().raise(form.markWanted,
+                             front::MarkWanted{.materials = materials, .name = name});
+  });
+  maker.watch({&form.PictureStore, &form.ListGroups, &side.listing}, [&form, materials, &listing] {
+    const bool here = form.Mark && form.Mark->materials == materials;
+    listing.showMarked(here ? &form.Mark->name : nullptr);
+  });
 }
 
 QVBoxLayout* makeSide(Maker& maker, front::Session& session, front::FormOBJ& form, const Side& side,
@@ -64,7 +78,8 @@ QVBoxLayout* makeSide(Maker& maker, front::Session& session, front::FormOBJ& for
   auto* column = new QVBoxLayout;
   column->setSpacing(4);
   const QString word = QString::fromLatin1(side.word);
-  auto* listing = new NameListing(maker, session, side.listing, side.kind, parent);
+  auto* listing = new NameListing(maker, session, form, side.kind, parent);
+  letMark(maker, form, side, *listing);
   ListView& names = maker.list(side.names, parent);
   names.setAccessibleName(word);
   new NameKeys(maker, side.names, side.newName, names);

@@ -32,6 +32,7 @@ class MeshWindow : public FormWindow {
 
  private:
   bool uncover(const QKeyEvent& event);
+  bool unmark(const QKeyEvent& event);
   QWidget* makeSide(front::Session& session, front::FormOBJ& form);
   QWidget* makeStatus(front::Session& session, front::FormOBJ& form);
   void bindTheRest(front::FormOBJ& form, QWidget& side);

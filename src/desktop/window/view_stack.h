@@ -7,11 +7,15 @@
 
 #include <QFrame>
 
+#include <array>
+#include <memory>
 #include <vector>
 
 class QLabel;
 
 namespace norvik::desktop {
+
+class GlView;
 
 /// Holds a widget for each picture of the form, all in the same place; the tools say which is seen.
 /// It keeps the keys while a mesh is looked at, whatever view is on top, and says what to do while
@@ -24,16 +28,22 @@ class ViewStack : public QFrame {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void addView(QWidget& view);
   QWidget& make3DView(Maker& maker, front::PictureBox& picture, DesktopFrontEnd& frontEnd);
   void place();
+  bool moveByKey(const QKeyEvent& event);
   void tellWhatToDo();
+  void showMark();
 
   front::FormOBJ& form_;
   QWidget* view3D_ = nullptr;
   QLabel* hint_ = nullptr;
+  GlView* space_ = nullptr;  ///< null on a desktop without three dimensions
+  std::array<SurfaceView*, 3> flat_{};
+  std::shared_ptr<const front::MeshMark> mark_;  ///< that is seen
   std::vector<QWidget*> views_;
 };
 
