@@ -57,7 +57,6 @@ void takeWorkshopPictures(Operator& hand, const std::function<void(const QString
   camera.take(u"workshop-boss"_s, window);
   hand.click(u"LabelPlay"_s);
   chooseTheme(u"light"_s);
-  hand.rightClick(u"ListHotKeys"_s);
   hand.click(u"LabelView"_s);
   takeTemplate(hand, camera, window);
   window.close();
