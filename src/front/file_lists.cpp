@@ -2,9 +2,6 @@
 
 #include "text/columns.h"
 
-#include <algorithm>
-#include <vector>
-
 namespace norvik::front {
 
 namespace {
@@ -25,13 +22,9 @@ void FolderList::setPath(std::string_view path) {
 void FileList::list(const text::Disk& disk) {
   clear();
   const std::string_view between = path_.ends_with('\\') ? "" : "\\";
-  std::vector<std::string> names;
-  text::ignoringErrors([&] { names = disk.matching(path_ + std::string{between} + pattern_); });
-  // They come in the order of their bytes, which stays that of names that differ in case alone.
-  std::stable_sort(names.begin(), names.end(), [](const std::string& one, const std::string& two) {
-    return text::lowered(one) < text::lowered(two);
+  text::ignoringErrors([&] {
+    for (const auto& name : disk.matching(path_ + std::string{between} + pattern_)) add(name);
   });
-  for (const std::string& name : names) add(name);
 }
 
 bool walkTo(const text::Disk& disk, FolderList& folders, std::string_view path) {

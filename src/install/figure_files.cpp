@@ -39,11 +39,10 @@ class FileLister {
   void look(const std::string& line, ReadOn&& readOn) {
     constexpr std::string_view kReference = "figureRes";
     if (begins(line, kReference) && holds(line, "Geom")) {
-      addNamed(figure::pathBelow(poser_ + "Runtime\\", line, "Geom"), "OBJ file not present!");
+      addGeometry(line, "Geom", "OBJ file not present!");
     }
     if (begins(line, "objFile") && holds(line, "Geometries:")) {
-      addNamed(figure::pathBelow(poser_ + "Runtime\\", line, "Geometries:"),
-               "Prop OBJ file not present!");
+      addGeometry(line, "Geometries:", "Prop OBJ file not present!");
     }
     if (line == "textureMap") {
       const std::string value = readOn();
@@ -75,19 +74,28 @@ class FileLister {
     return folder + figure::asDiskPath(value);
   }
 
-  /// Quotes and blanks around a path are no part of it.
+  /// Quotes are no part of a path.
+  static std::string unquoted(std::string_view text) {
+    std::string bare{text};
+    std::erase(bare, '"');
+    return bare;
+  }
+
+  void addGeometry(const std::string& line, std::string_view from, std::string_view complaint) {
+    addNamed(unquoted(figure::pathBelow(poser_ + "Runtime\\", line, from)), complaint);
+  }
+
+  /// Nor are the blanks around the path of a map.
   void addMap(std::string_view field) {
-    std::string unquoted{field};
-    std::erase(unquoted, '"');
-    const std::string_view value = text::trimmed(unquoted);
+    const std::string bare = unquoted(field);
+    const std::string_view value = text::trimmed(bare);
     if (value.empty()) return;
     if (!holds(value, kRuntime)) return addNamed(mapElsewhere(value), "Map file not present!");
     const std::string below = figure::pathBelow("", value, kRuntime);
     if (below != kNeverListed) addNamed(poser_ + below, "Map file not present!");
   }
 
-  void addNamed(std::string path, std::string_view complaint) {
-    std::erase(path, '"');
+  void addNamed(const std::string& path, std::string_view complaint) {
     if (!session_.disk.exists(path)) {
       session_.front.messageBox(complaint, "Error!", front::kCritical);
     }

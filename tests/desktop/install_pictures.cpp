@@ -2,7 +2,9 @@
 
 #include "desktop/bind/list_view.h"
 #include "desktop/words.h"
+#include "support/zip_bytes.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QtTest>
@@ -34,12 +36,38 @@ void stage(const text::Disk& disk, const std::string& folder, const QString& dri
   write(staging + u"readme.txt"_s, "Hello");
 }
 
+/// A zip file whose figure lies inside folders, and what the window offers about it.
+void takeFoldedFigure(Program& program, Operator& hand, const QString& drive,
+                      const std::function<void()>& take) {
+  front::Session& session = program.session();
+  const std::string zip = tests::zipBytes(
+      {{"Runtime/Libraries/Characters/Anna/anna.cr2", "{\r\n}\r\n"}, {"readme.txt", "Hello"}});
+  write(drive + u"/anna.zip"_s, QByteArray::fromStdString(zip));
+  session.settings.set("Startup", "WZLoc", "");
+  hand.willChoose(drive + u"/anna.zip"_s);
+  hand.willLook([](QWidget&) {});
+  hand.willLook([](QWidget&) {});
+  hand.willLook([&take](QWidget&) { take(); });
+  hand.willPress(u"OK"_s);
+  hand.menu({u"MenuInstallCR2"_s});
+  const std::string staging = session.opening.inProgramFolder("\\cr2install");
+  QDir(hostName(session.disk.hostPath(staging))).removeRecursively();
+  QFile::remove(drive + u"/anna.zip"_s);
+}
+
 }  // namespace
 
 void takeInstallPictures(Program& program, Operator& hand, const QString& drive,
                          const std::function<void(const QString& theme)>& chooseTheme,
                          const std::function<void(const QString& name, QWidget* window)>& take) {
   front::Session& session = program.session();
+  takeFoldedFigure(program, hand, drive, [&] {
+    QWidget* const box = QApplication::activeModalWidget();
+    take(u"install-flat"_s, box);
+    chooseTheme(u"dark"_s);
+    take(u"install-flat-dark"_s, box);
+    chooseTheme(u"light"_s);
+  });
   stage(session.disk, session.opening.inProgramFolder("\\cr2install"), drive);
   hand.menu({u"MenuInstallCR2"_s});
   take(u"installer"_s, nullptr);

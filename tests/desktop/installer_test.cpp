@@ -164,7 +164,7 @@ class OutsideUnzipperTest : public InstallerTest {
   OutsideUnzipperTest() : InstallerTest("WZLoc=C:\\slow unzip\n") {
     write("slow unzip",
           "#!/bin/sh\necho \"$1\" > arguments\necho \"$2\" >> arguments\n"
-          "for i in 1 2 3 4 5 6 7 8 9 10; do [ -e go ] && break; sleep 0.1; done\n"
+          "n=0; while [ ! -e go ] && [ $n -lt 200 ]; do sleep 0.1; n=$((n+1)); done\n"
           "cp \"$0.figure\" \"$2/doll.cr2\"\ntouch ended\n");
     std::filesystem::permissions(folder_.path() + "/slow unzip", std::filesystem::perms::owner_all);
     write("slow unzip.figure", kFigure);

@@ -124,6 +124,7 @@ TEST_F(MeshWindowTest, SaysWhatToDoWhileThereIsNothingToSee) {
   auto& hint = find<QLabel>("ViewHint");
   EXPECT_TRUE(hint.isVisible());
   EXPECT_TRUE(hint.text().contains("View"));
+  EXPECT_EQ(hint.palette().color(hint.foregroundRole()), QColor("#6c7684")) << "on white";
   form.PictureStore.show();
   form.CommandListGroups.setEnabled(true);
   dispatcher.sync();

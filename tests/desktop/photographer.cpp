@@ -22,17 +22,27 @@ int distance(QRgb one, QRgb other) {
          std::abs(qBlue(one) - qBlue(other));
 }
 
-/// The most frequent colours of a picture.
+/// The most frequent colours of a picture, and of the others those that are farthest from all.
 QList<QRgb> paletteOf(const QHash<QRgb, int>& counts) {
   constexpr std::size_t kMost = 256;
+  constexpr std::size_t kFrequent = 96;
   std::vector<std::pair<int, QRgb>> colours;
   for (auto entry = counts.begin(); entry != counts.end(); ++entry) {
     colours.emplace_back(-entry.value(), entry.key());
   }
   std::sort(colours.begin(), colours.end());
-  colours.resize(std::min(colours.size(), kMost));
   QList<QRgb> palette;
-  for (const auto& [count, colour] : colours) palette << colour;
+  std::vector<int> away(colours.size(), std::numeric_limits<int>::max());
+  std::size_t next = 0;
+  while (palette.size() < static_cast<qsizetype>(std::min(colours.size(), kMost))) {
+    palette << colours[next].second;
+    for (std::size_t i = 0; i < colours.size(); ++i) {
+      away[i] = std::min(away[i], distance(colours[i].second, palette.back()));
+    }
+    if (++next >= kFrequent) {
+      next = static_cast<std::size_t>(std::max_element(away.begin(), away.end()) - away.begin());
+    }
+  }
   return palette;
 }
 

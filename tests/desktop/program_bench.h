@@ -18,10 +18,13 @@ inline const std::string kTilda = "C:\\Poser\\Runtime\\Libraries\\Characters\\Ti
 class ProgramBench : public testing::Test {
  protected:
   explicit ProgramBench(const std::string& settings = "[Startup]\nPLoc=C:\\Poser\\\n") {
+    qputenv(kState, QByteArray::fromStdString(state_.path()));
     std::filesystem::copy(NORVIK_FIGURES, folder_.path() + "/Poser",
                           std::filesystem::copy_options::recursive);
     if (!settings.empty()) std::ofstream(folder_.path() + "/norvik.ini") << settings;
   }
+
+  ~ProgramBench() override { qputenv(kState, stateBefore_); }
 
   /// Starts the program with a path on its command line.
   void start(const std::string& file) {
@@ -42,6 +45,11 @@ class ProgramBench : public testing::Test {
   Widget& find(const char* name) {
     return *window().findChild<Widget*>(QString::fromLatin1(name));
   }
+
+  // The history of this test alone.
+  static constexpr const char* kState = "XDG_STATE_HOME";
+  const QByteArray stateBefore_ = qgetenv(kState);
+  ScratchFolder state_;
 
   ScratchFolder folder_;
   ScriptedAsker asker_;

@@ -44,8 +44,8 @@ TEST_F(ScaleNoteTest, ShowsTheFirstLineThatLosesAPoint) {
   ASSERT_TRUE(appears());
   // x of the first vertex is 1; so is -x of the second, whose z is 2.
   EXPECT_EQ(note.text(),
-            "3 coordinates of this file will be written without the point. First in this line:\n"
-            "v 0.5 0.25 0.1\nas it will be:\nv  10000000 0.500000 0.200000");
+            "3 coordinates of this file will be written without their point. The first such line "
+            "as it is, and as it will be:\nv 0.5 0.25 0.1\nv  10000000 0.500000 0.200000");
 }
 
 TEST_F(ScaleNoteTest, IsGoneWithTheAmountAndTheBox) {

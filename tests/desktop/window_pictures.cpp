@@ -87,21 +87,20 @@ void takeChannelPictures(Program& program, Operator& hand, const ChooseTheme& ch
   hand.click(u"PictureViewChannels"_s);
 }
 
-/// The guide, over the figure that it was asked from.
-void takeGuide(Program& program, const ChooseTheme& chooseTheme, const Photographer& camera) {
-  const auto open = [&](const QString& name) {
-    QTest::keyClick(program.mainWindow().findChild<QWidget*>(u"ListMaterials"_s), Qt::Key_F1);
-    QWidget* guide = program.mainWindow().findChild<QWidget*>(u"GuideWindow"_s);
-    guide->move(0, 0);
-    camera.take(name, *guide);
-    guide->close();
-    QTest::qWait(kShown);
-  };
-  program.mainWindow().findChild<QWidget*>(u"ListMaterials"_s)->setFocus();
-  open(u"guide"_s);
+/// The guide, where it begins.
+void takeGuide(Program& program, Operator& hand, const ChooseTheme& chooseTheme,
+               const Photographer& camera) {
+  hand.clickItem(u"ListMaterials"_s, u"skin"_s);
+  QTest::keyClick(&hand.find(u"ListMaterials"_s), Qt::Key_F1);
+  auto* guide = program.mainWindow().findChild<QWidget*>(u"GuideWindow"_s);
+  guide->move(0, 0);
+  QTest::mouseClick(guide->findChild<QPushButton*>(u"GuideContents"_s), Qt::LeftButton);
+  camera.take(u"guide"_s, *guide);
   chooseTheme(u"dark"_s);
-  open(u"guide-dark"_s);
+  camera.take(u"guide-dark"_s, *guide);
   chooseTheme(u"light"_s);
+  guide->close();
+  QTest::qWait(kShown);
 }
 
 /// Two figures, a morph of the second one, and the question whether its copy is saved.
@@ -161,7 +160,7 @@ void takeWindowPictures(Program& program, Operator& hand, const QString& drive,
   hand.hover(u"TextMainTex"_s);
   camera.take(u"textures"_s);
   hand.clickItem(u"ListAllTexMaps"_s, u"tilda"_s);
-  takeGuide(program, chooseTheme, camera);
+  takeGuide(program, hand, chooseTheme, camera);
   takeChannelPictures(program, hand, chooseTheme, camera);
   takeDialPictures(hand, [&](const QString& name) { camera.take(name); });
 

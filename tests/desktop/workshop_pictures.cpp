@@ -8,10 +8,20 @@ namespace {
 
 using Qt::StringLiterals::operator""_s;
 
+/// A template, the groups, and the size that is asked for before it is saved.
+void takeTemplate(Operator& hand, const Photographer& camera, QWidget& window) {
+  hand.click(u"LabelUVMap"_s);
+  hand.click(u"CommandListGroups"_s);
+  hand.click(u"LabelSaveMap"_s);
+  hand.type(u"TextMapSize"_s, u"2048"_s);
+  camera.take(u"mesh-tools"_s, window);
+  hand.click(u"CommandListGroups"_s);
+}
+
 }  // namespace
 
-/// What is done while the mesh spins is done by a timer: the
-/// key that starts the spin comes back when it is over.
+/// What is done while the mesh spins is done by a timer: the key that starts the spin comes back
+/// when it is over.
 void takeWorkshopPictures(Operator& hand, const std::function<void(const QString&)>& chooseTheme,
                           const Photographer& camera) {
   camera.take(u"mesh"_s);
@@ -47,6 +57,9 @@ void takeWorkshopPictures(Operator& hand, const std::function<void(const QString
   camera.take(u"workshop-boss"_s, window);
   hand.click(u"LabelPlay"_s);
   chooseTheme(u"light"_s);
+  hand.rightClick(u"ListHotKeys"_s);
+  hand.click(u"LabelView"_s);
+  takeTemplate(hand, camera, window);
   window.close();
   QTest::qWait(50);
 }

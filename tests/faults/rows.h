@@ -10,6 +10,7 @@ namespace norvik::tests {
 
 using FaultRows = std::vector<FaultRow>;
 
+FaultRows figureRows();
 FaultRows copyRows();
 FaultRows surgeryRows();
 FaultRows dialRows();

@@ -23,8 +23,8 @@ std::string manyLines(const std::string& line) {
 FaultRows allRows() {
   FaultRows all;
   for (const auto rows :
-       {copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows, materialRows, poseRows,
-        editorRows, meshToolRows, meshRows, smallToolRows}) {
+       {figureRows, copyRows, surgeryRows, dialRows, linkRows, phiRows, sceneRows, materialRows,
+        poseRows, editorRows, meshToolRows, meshRows, smallToolRows}) {
     for (FaultRow& row : rows()) all.push_back(std::move(row));
   }
   return all;

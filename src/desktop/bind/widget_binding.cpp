@@ -2,10 +2,12 @@
 
 #include "desktop/bind/drag.h"
 #include "desktop/bind/drop_mark.h"
+#include "desktop/bind/menu_key.h"
 #include "desktop/words.h"
 #include "front/form.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -149,7 +151,16 @@ bool WidgetBinding::keyPressed(const QKeyEvent& event) {
   if (control().key.hasHandlers()) {
     const std::string name = keyName(event);
     if (!name.empty()) raise(control().key, name);
-    if (name == "Enter" || name == "Escape") return true;
+    // A dialog says itself what Escape does.
+    const bool inDialog = qobject_cast<const QDialog*>(widget_->window()) != nullptr;
+    if (name == "Enter" || (name == "Escape" && !inDialog)) return true;
+  }
+  const bool takesRight = clicks_ == Clicks::fromMouse || control().pressed.hasHandlers() ||
+                          control().released.hasHandlers();
+  if (takesRight && isMenuKey(event)) {
+    raise(control().pressed, front::Mouse{front::MouseButton::right, 0, 0});
+    raise(control().released, front::Mouse{front::MouseButton::right, 0, 0});
+    return true;
   }
   if (clicks_ != Clicks::fromMouse) return false;
   const auto key = event.key();
@@ -164,13 +175,6 @@ bool WidgetBinding::keyPressed(const QKeyEvent& event) {
     } else {
       clickByKey();
     }
-    return true;
-  }
-  const bool menuKey =
-      key == Qt::Key_Menu || (key == Qt::Key_F10 && event.modifiers() == Qt::ShiftModifier);
-  if (menuKey) {
-    raise(control().pressed, front::Mouse{front::MouseButton::right, 0, 0});
-    raise(control().released, front::Mouse{front::MouseButton::right, 0, 0});
     return true;
   }
   return false;
@@ -214,6 +218,9 @@ std::string keyName(const QKeyEvent& event) {
     case Qt::Key_Alt:
     case Qt::Key_AltGr:
     case Qt::Key_Meta:
+    // It leads on to the next control, and is no character of this one.
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
       return {};
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -2,8 +2,9 @@
 
 #include "desktop/bind/label_button.h"
 #include "desktop/forms/pose_parts.h"
+#include "desktop/window/escape.h"
 #include "desktop/window/headings.h"
-#include "desktop/window/hint.h"
+#include "desktop/window/side_by_side.h"
 #include "desktop/words.h"
 #include "install/move_preview.h"
 
@@ -32,24 +33,16 @@ Cr2InstallWindow::Cr2InstallWindow(const WindowParts& parts, install::FormCR2Ins
     : FormWindow(parts.maker, form, parts.unload, parts.parent),
       session_(parts.session),
       form_(form) {
-  auto* column = new QVBoxLayout(this);
-  column->setSpacing(kPaneMargin);
-  QLabel& hint = maker().label(form.LabelHint, *this);
-  hint.setWordWrap(true);
-  column->addWidget(&hint);
-  auto* sides = new QHBoxLayout;
-  sides->setSpacing(2 * kPaneMargin);
-  sides->addLayout(makeFolders(), 2);
-  sides->addLayout(makePreview(), 3);
-  column->addLayout(sides, 1);
+  QVBoxLayout& column =
+      laySideBySide(maker(), form.LabelHint, *this, {{makeFolders(), 2}, {makePreview(), 3}});
 
   auto* heading = new QLabel(QStringLiteral("Found no place"), this);
   makeHeading(*heading);
   ListView& left = maker().list(form.ListCR2Install, *this);
   left.setMaximumHeight(kFewRows);
   heading->setBuddy(&left);
-  column->addWidget(heading);
-  column->addWidget(&left);
+  column.addWidget(heading);
+  column.addWidget(&left);
   maker().showWhileAny(*heading, {&form.ListCR2Install});
 
   auto* buttons = new QDialogButtonBox(this);
@@ -62,7 +55,7 @@ Cr2InstallWindow::Cr2InstallWindow(const WindowParts& parts, install::FormCR2Ins
   connect(install, &QPushButton::clicked, this,
           [this] { maker().dispatcher().raise(form_.DirCR2Install.key, std::string{"Enter"}); });
   connect(cancel, &QPushButton::clicked, this, [this] { close(); });
-  column->addWidget(buttons);
+  column.addWidget(buttons);
   resize(kWidth, kHeight);
 }
 
@@ -85,6 +78,10 @@ QLayout* Cr2InstallWindow::makeFolders() {
   column->addWidget(&name);
   maker().watch({&form_.TextNewDir}, [this, &name] {
     if (form_.TextNewDir.visible() && !name.hasFocus()) name.setFocus();
+  });
+  onEscape(name, [this, &folders] {
+    maker().dispatcher().run(form_.name(), [this] { form_.TextNewDir.hide(); });
+    folders.setFocus(Qt::OtherFocusReason);
   });
   folders.setFocus();
   return column;

@@ -5,6 +5,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -19,7 +20,10 @@ constexpr int kHeight = 220;
 }  // namespace
 
 LaunchWindow::LaunchWindow(const WindowParts& parts, tools::FormLaunch& form)
-    : FormWindow(parts.maker, form, parts.unload, parts.parent), form_(form) {
+    : FormWindow(parts.maker, form, parts.unload, parts.parent),
+      session_(parts.session),
+      frontEnd_(parts.frontEnd),
+      form_(form) {
   setWindowFlag(Qt::WindowStaysOnTopHint);
   auto* column = new QVBoxLayout(this);
   column->setSpacing(kPaneMargin);
@@ -37,11 +41,28 @@ LaunchWindow::LaunchWindow(const WindowParts& parts, tools::FormLaunch& form)
   note_->setPalette(onPaper);
   auto* over = new QVBoxLayout(&target);
   over->addWidget(note_, 0, Qt::AlignCenter);
+  auto* choose = new QPushButton(QStringLiteral("&Choose ..."), this);
+  choose->setObjectName(QStringLiteral("ChooseFile"));
+  choose->setToolTip(QStringLiteral("Choose a file instead of dropping it"));
+  connect(choose, &QPushButton::clicked, this, [this] { chooseFile(); });
+  column->addWidget(choose);
   auto* pictures = qobject_cast<QCheckBox*>(maker().make(form.Check1, *this));
   pictures->setToolTip(QStringLiteral("Show dropped pictures here and open nothing"));
   column->addWidget(pictures);
   maker().watch({&form.Picture1, &form.Check1}, [this] { showNote(); });
   resize(kWidth, kHeight);
+}
+
+/// What a drop does, for a file that is chosen.
+void LaunchWindow::chooseFile() {
+  const std::string name = form_.name() + ".ChooseFile";
+  maker().dispatcher().run(name, [&] {
+    const auto file =
+        frontEnd_.fileDialog({.name = name,
+                              .title = form_.Check1.value() ? "Choose a picture" : "Choose a file",
+                              .folder = session_.disk.currentFolder()});
+    if (file) form_.Picture1.filesDropped.raise({*file});
+  });
 }
 
 void LaunchWindow::showNote() {

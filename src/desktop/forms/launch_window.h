@@ -1,5 +1,6 @@
 #pragma once
-// FormLaunch laid out: a target for files of any file manager.
+// FormLaunch laid out: a target for files of any file manager, and a button for those who drag
+// nothing.
 
 #include "desktop/forms/form_windows.h"
 #include "tools/form_launch.h"
@@ -19,8 +20,11 @@ class LaunchWindow : public FormWindow {
   void rest() override;
 
  private:
+  void chooseFile();
   void showNote();
 
+  front::Session& session_;
+  DesktopFrontEnd& frontEnd_;
   tools::FormLaunch& form_;
   QLabel* note_ = nullptr;
   std::uint64_t opened_ = 0;

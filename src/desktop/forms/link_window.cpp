@@ -56,7 +56,7 @@ QWidget* makeList(Maker& maker, front::ListBox& list, const QString& name,
   view.setAccessibleName(name);
   title->setBuddy(&view);
   auto* filter = new ListFilter(list, view, *pane);
-  filter->show();
+  filter->stay();
   column->addWidget(filter);
   column->addWidget(&view, 1);
   maker.showWhileAny(*pane, {&list});

@@ -13,6 +13,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTimer>
 #include <QWindow>
 
@@ -72,7 +73,10 @@ MagnifierWindow::MagnifierWindow(const WindowParts& parts, tools::Magnifier& for
   grid->setColumnStretch(0, 1);
   image_ = &maker().surface(form.Picture1, *this);
   image_->setAccessibleName(QStringLiteral("The screen around the pointer"));
-  image_->setToolTip(QStringLiteral("Right press: copy the picture"));
+  image_->setToolTip(QStringLiteral("Ctrl+C or a right press: copy the picture"));
+  connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, [this] {
+    maker().dispatcher().raise(form_.Picture1.pressed, front::Mouse{front::MouseButton::right});
+  });
   image_->installEventFilter(this);
   auto* over = new QGridLayout(image_);
   over->setContentsMargins(0, 0, 0, 0);

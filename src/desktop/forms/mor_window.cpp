@@ -51,7 +51,7 @@ MorWindow::MorWindow(const WindowParts& parts, pose::FormMOR& form)
   column->addWidget(&file);
   ListView& morphs = makeMorphs(maker(), form, *this);
   auto* filter = new ListFilter(form.ListMorphs, morphs, *this);
-  filter->show();
+  filter->stay();
   column->addWidget(filter);
   connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this,
           [this] { openFilter(*this); });

@@ -2,6 +2,7 @@
 
 #include "builders/phi/edit_phi.h"
 #include "desktop/bind/label_button.h"
+#include "desktop/window/escape.h"
 #include "desktop/window/headings.h"
 #include "desktop/words.h"
 
@@ -38,6 +39,7 @@ PhiWindow::PhiWindow(const WindowParts& parts, builders::FormPhi& form)
   // The figures' tree shows in the indentation.
   lines.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   lines.setToolTip(QStringLiteral("Double-click a line to edit it"));
+  lines_ = &lines;
   column->addWidget(&lines, 1);
   column->addWidget(makeLine());
   column->addLayout(makeButtons());
@@ -76,6 +78,11 @@ QWidget* PhiWindow::makeLine() {
   layout->addWidget(name);
   layout->addWidget(&line, 1);
   maker().showWhileAny(*row, {&form_.TextPhiEdit});
+  // The line stays as it was, and the file with its other edits stays open.
+  onEscape(line, [this] {
+    maker().dispatcher().run(form_.name(), [this] { form_.TextPhiEdit.hide(); });
+    lines_->setFocus(Qt::OtherFocusReason);
+  });
   return row;
 }
 

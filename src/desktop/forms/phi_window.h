@@ -32,6 +32,7 @@ class PhiWindow : public FormWindow {
 
   builders::FormPhi& form_;
   std::unique_ptr<MenuTree> menu_;
+  QWidget* lines_ = nullptr;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;
 };

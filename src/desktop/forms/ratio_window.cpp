@@ -30,7 +30,7 @@ RatioWindow::RatioWindow(const WindowParts& parts, erc::FormListEMCs& form)
   list_ = &maker().list(form.ListEMCs, *this);
   list_->setAccessibleName(QStringLiteral("Channels and links"));
   auto* filter = new ListFilter(form.ListEMCs, *list_, *this);
-  filter->show();
+  filter->stay();
   column->addWidget(filter);
   column->addWidget(list_, 1);
   auto* hint = new QLabel(

@@ -152,6 +152,7 @@ QLayout* RenamerWindow::makeTarget() {
   target.setText(QStringLiteral("Drop here"));
   target.setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
   target.setAutoRaise(false);
+  target.setToolTip(QStringLiteral("Drop the picked file or one of the desktop here"));
   target.setAccessibleName(QStringLiteral("Drop the picked file here to rename its dials"));
   row->addWidget(&target);
   return row;

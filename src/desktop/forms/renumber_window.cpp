@@ -2,7 +2,7 @@
 
 #include "desktop/forms/pose_parts.h"
 #include "desktop/theme.h"
-#include "desktop/window/headings.h"
+#include "desktop/window/side_by_side.h"
 #include "desktop/words.h"
 #include "install/renumber.h"
 #include "install/staging.h"
@@ -28,17 +28,8 @@ RenumberWindow::RenumberWindow(const WindowParts& parts, install::FormRenumber& 
     : FormWindow(parts.maker, form, parts.unload, parts.parent),
       session_(parts.session),
       form_(form) {
-  auto* column = new QVBoxLayout(this);
-  column->setSpacing(kPaneMargin);
-  QLabel& hint = maker().label(form.LabelHint, *this);
-  hint.setWordWrap(true);
-  column->addWidget(&hint);
-  auto* sides = new QHBoxLayout;
-  sides->setSpacing(2 * kPaneMargin);
-  sides->addLayout(makeFolders(), 1);
-  sides->addLayout(makeFiles(), 1);
-  sides->addLayout(makePreview(), 1);
-  column->addLayout(sides, 1);
+  QVBoxLayout& column = laySideBySide(maker(), form.LabelHint, *this,
+                                      {{makeFolders(), 1}, {makeFiles(), 1}, {makePreview(), 1}});
   auto* buttons = new QDialogButtonBox(this);
   auto* go = qobject_cast<QPushButton*>(maker().make(form.CommandGo, *this));
   buttons->addButton(go, QDialogButtonBox::ActionRole);
@@ -46,7 +37,7 @@ RenumberWindow::RenumberWindow(const WindowParts& parts, install::FormRenumber& 
   close->setAutoDefault(false);
   go->setDefault(true);
   connect(close, &QPushButton::clicked, this, [this] { this->close(); });
-  column->addWidget(buttons);
+  column.addWidget(buttons);
   resize(kWidth, kHeight);
 }
 

@@ -96,7 +96,7 @@ bool Guide::eventFilter(QObject* watched, QEvent* event) {
     return false;
   }
   auto* menu = qobject_cast<QMenu*>(widget);
-  if (menu == nullptr) return showHere();
+  if (menu == nullptr) return show(guidePlaceOf(widget), *widget->window());
   QWidget* const window = windowBehind(menu);
   const QAction* const entry = menu->activeAction();
   QString place;

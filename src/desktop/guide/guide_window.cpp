@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QShortcut>
 #include <QTextBlock>
+#include <QTextTable>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -49,7 +50,46 @@ QVariant GuidePages::loadResource(int type, const QUrl& name) {
 
 void GuidePages::doSetSource(const QUrl& url, QTextDocument::ResourceType type) {
   QTextBrowser::doSetSource(url, type);
+  dress();
   if (url.hasFragment()) goToHeading(url.fragment());
+}
+
+/// The colours of links are those of the moment in which a page is read.
+void GuidePages::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || source().isEmpty()) return;
+  const int place = verticalScrollBar()->value();
+  reload();
+  dress();
+  verticalScrollBar()->setValue(place);
+}
+
+/// Room around words, headings and cells.
+void GuidePages::dress() {
+  constexpr int kAround = 16;
+  constexpr int kAboveHeading = 14;
+  constexpr int kBelowHeading = 4;
+  constexpr int kInCell = 4;
+  document()->setDocumentMargin(kAround);
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    QTextBlockFormat format = block.blockFormat();
+    if (format.headingLevel() == 0) continue;
+    format.setTopMargin(kAboveHeading);
+    format.setBottomMargin(kBelowHeading);
+    QTextCursor(block).setBlockFormat(format);
+  }
+  for (QTextFrame* frame : document()->rootFrame()->childFrames()) {
+    auto* table = qobject_cast<QTextTable*>(frame);
+    if (table == nullptr) continue;
+    QTextTableFormat format = table->format();
+    format.setBorderCollapse(true);
+    format.setBorder(1);
+    format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    format.setBorderBrush(palette().mid());
+    format.setCellSpacing(0);
+    format.setCellPadding(kInCell);
+    table->setFormat(format);
+  }
 }
 
 void GuidePages::goToHeading(const QString& name) {

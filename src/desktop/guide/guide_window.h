@@ -21,8 +21,10 @@ class GuidePages : public QTextBrowser {
 
  protected:
   void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void dress();
   void goToHeading(const QString& name);
 };
 

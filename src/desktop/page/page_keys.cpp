@@ -4,7 +4,6 @@
 #include "desktop/page/page_view.h"
 #include "desktop/words.h"
 
-#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -67,6 +66,14 @@ std::string pageKeyName(const QKeyEvent& event) {
 }
 
 void PageView::keyPressEvent(QKeyEvent* event) {
+  // Tab is a letter here; Ctrl+Tab leaves the page.
+  const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+  if (tab && event->modifiers().testFlag(Qt::ControlModifier)) {
+    const bool back =
+        event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier);
+    QAbstractScrollArea::focusNextPrevChild(!back);
+    return;
+  }
   const std::string name = pageKeyName(*event);
   const bool done = editByKey(*event) || moveByKey(*event);
   const bool wanted = done || name == "F3" || name == "Ctrl+F3";
@@ -76,11 +83,7 @@ void PageView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool PageView::focusNextPrevChild(bool next) {
-  // Tab is a letter here; Ctrl+Tab leaves the page.
-  if (writable_ && !QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier)) {
-    return false;
-  }
-  return QAbstractScrollArea::focusNextPrevChild(next);
+  return !writable_ && QAbstractScrollArea::focusNextPrevChild(next);
 }
 
 void PageView::replaceSelection(const std::string& bytes, bool typed) {

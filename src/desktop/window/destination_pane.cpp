@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSplitter>
@@ -55,6 +56,17 @@ QWidget* makeGeometries(Maker& maker, front::Opening& opening, QWidget& parent) 
   list.setToolTip(
       QStringLiteral("Choose what to export, then DONE. A right click puts the list away."));
   column->addWidget(&list, 1);
+  auto* hint = new QLabel(QStringLiteral("Click what to export, then DONE."), panel);
+  hint->setForegroundRole(QPalette::PlaceholderText);
+  hint->setWordWrap(true);
+  column->addWidget(hint);
+  auto& files = maker.frame(opening.FrameExtractObj, *panel);
+  auto* row = new QHBoxLayout(&files);
+  row->setContentsMargins(8, 2, 8, 2);
+  row->addWidget(maker.make(opening.OptionSepObjFiles, files));
+  row->addWidget(maker.make(opening.OptionOneObjFile, files));
+  row->addStretch();
+  column->addWidget(&files);
   maker.showWhileAny(*panel, {&opening.ListOBJExtract});
   return panel;
 }
@@ -73,7 +85,7 @@ QWidget* makeMaterials(Maker& maker, front::Opening& opening, QWidget& parent) {
        {&opening.ListMATColors, &opening.ListMatHiLite, &opening.ListAltGeomNames}) {
     column->addWidget(&maker.list(*list, *side), 1);
   }
-  column->addWidget(makeGeometries(maker, opening, *side), 1);
+  column->addWidget(makeGeometries(maker, opening, *side), 2);
   auto* swatches = new QHBoxLayout;
   auto& colour = maker.swatch(opening.PictureMatColor, *side);
   keepSwatchTip(maker, opening, opening.PictureMatColor, opening.ListMATColors, colour);

@@ -66,7 +66,7 @@ void makeReorderCard(Maker& maker, front::Opening& opening, QWidget& over) {
                            *card),
                   0, 0, 1, 2);
   grid->addWidget(headingOf(QStringLiteral("&Channels of the part"), *card, left), 1, 0);
-  grid->addWidget(headingOf(QStringLiteral("&New order"), *card, right), 1, 1);
+  grid->addWidget(headingOf(QStringLiteral("New o&rder"), *card, right), 1, 1);
   grid->addWidget(&left, 2, 0);
   grid->addWidget(&right, 2, 1);
   right.setToolTip(QStringLiteral("Alt+Up and Alt+Down move a channel, Delete gives it back."));
@@ -91,7 +91,7 @@ void makeSpeedCard(Maker& maker, front::Opening& opening, QWidget& over) {
   auto& list = maker.list(opening.ListChannelsReorder, *card);
   showDialNames(list, true);
   list.setAccessibleName(QStringLiteral("All dials"));
-  column->addWidget(headingOf(QStringLiteral("Tracking &speed"), *card, list));
+  column->addWidget(headingOf(QStringLiteral("&Tracking speed"), *card, list));
   column->addWidget(makeHint(
       QStringLiteral("Click the dial whose speed is to change. Escape puts the list away."),
       *card));
@@ -115,7 +115,7 @@ void makeHiddenDialsCard(Maker& maker, front::Opening& opening, QWidget& over) {
   list.setAccessibleName(QStringLiteral("Dials that are hidden"));
   // Each click turns one dial over.
   list.setSelectionMode(QAbstractItemView::MultiSelection);
-  column->addWidget(headingOf(QStringLiteral("&Hidden dials"), frame, list));
+  column->addWidget(headingOf(QStringLiteral("Hidden &dials"), frame, list));
   column->addWidget(makeHint(QStringLiteral("The dials that are selected will be hidden, all "
                                             "others will show. Done asks where to save the figure; "
                                             "Escape changes nothing."),
@@ -171,7 +171,7 @@ void makeLimitsCard(Maker& maker, front::Opening& opening, QWidget& over, const 
   edit->setMinimumWidth(240);
   edit->setAccessibleName(QStringLiteral("Body part"));
   bindWithinCard(maker, std::make_unique<LineBinding>(maker.dispatcher(), box, *edit, *edit));
-  auto* label = new QLabel(QStringLiteral("Limits of the body &part"), card);
+  auto* label = new QLabel(QStringLiteral("Limits of the body p&art"), card);
   label->setBuddy(edit);
   grid->addWidget(label, 0, 0);
   grid->addWidget(edit, 0, 1);

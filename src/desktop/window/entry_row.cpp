@@ -40,13 +40,17 @@ class Row {
     });
   }
 
-  void add(front::Control& control) { line_->addWidget(maker_.make(control, *widget_)); }
+  void add(front::Control& control, const char* name = "") {
+    QWidget* widget = maker_.make(control, *widget_);
+    widget->setAccessibleName(QString::fromLatin1(name));
+    line_->addWidget(widget);
+  }
 
   void add(front::Frame& frame, std::initializer_list<front::OptionButton*> options) {
     auto& group = maker_.frame(frame, *widget_);
     group.setFlat(true);
     auto* inside = new QHBoxLayout(&group);
-    inside->setContentsMargins(0, 0, 0, 0);
+    inside->setContentsMargins(8, 2, 8, 2);
     for (front::OptionButton* option : options) inside->addWidget(maker_.make(*option, group));
     line_->addWidget(&group);
   }
@@ -72,15 +76,13 @@ QWidget* makeEntryRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   constexpr int kNumber = 90;
   Row row(maker, parent);
   row.add(opening.TextOBJScale, "Scale", kNumber);
-  row.add(opening.SliderOBJScale);
+  row.add(opening.SliderOBJScale, "Scale");
   row.add(opening.CheckOBJBatch);
   row.add(opening.FrameMash, {&opening.OptionMashOBJ, &opening.OptionMashMorph});
-  row.add(opening.FrameExtractObj, {&opening.OptionSepObjFiles, &opening.OptionOneObjFile});
   row.addBelow(*new ScaleNote(maker, opening, row.widget()));
   QWidget* widget = row.finish();
-  maker.showWhileAny(*widget,
-                     {&opening.TextOBJScale, &opening.SliderOBJScale, &opening.CheckOBJBatch,
-                      &opening.FrameMash, &opening.FrameExtractObj});
+  maker.showWhileAny(*widget, {&opening.TextOBJScale, &opening.SliderOBJScale,
+                               &opening.CheckOBJBatch, &opening.FrameMash});
   return widget;
 }
 

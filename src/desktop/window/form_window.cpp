@@ -1,5 +1,7 @@
 #include "desktop/window/form_window.h"
 
+#include "desktop/bind/menu_key.h"
+#include "desktop/bind/widget_binding.h"
 #include "desktop/words.h"
 
 #include <QCloseEvent>
@@ -72,6 +74,12 @@ bool FormWindow::deliverKey(const std::string& key) {
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (isMenuKey(*event) && form_.released.hasHandlers()) {
+    const QPoint middle = rect().center();
+    maker_.dispatcher().raise(form_.released,
+                              front::Mouse{front::MouseButton::right, middle.x(), middle.y()});
+    return;
+  }
   const std::string name = keyName(*event);
   if (!deliverKey(name) && name == "Escape") close();
 }

@@ -61,6 +61,11 @@ void ListFilter::open() {
   count();
 }
 
+void ListFilter::stay() {
+  stays_ = true;
+  show();
+}
+
 void ListFilter::dismiss() {
   edit_->clear();
   if (!stays_) hide();
@@ -81,6 +86,13 @@ void ListFilter::followView(const QEvent& event) {
   hide();
 }
 
+/// It stands over its list, and so does Tab come to it. Said once the window has all its controls:
+/// of two alone each comes before the other.
+void ListFilter::showEvent(QShowEvent* event) {
+  setTabOrder(edit_, &narrowed_.view);
+  QWidget::showEvent(event);
+}
+
 bool ListFilter::eventFilter(QObject* watched, QEvent* event) {
   if (watched != edit_) {
     followView(*event);
@@ -89,6 +101,7 @@ bool ListFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     switch (static_cast<QKeyEvent*>(event)->key()) {
       case Qt::Key_Escape:
+        if (stays_ && edit_->text().isEmpty()) break;
         dismiss();
         return true;
       case Qt::Key_Return:

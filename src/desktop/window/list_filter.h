@@ -32,6 +32,8 @@ class ListFilter : public QWidget {
 
   /// Shows the line and takes the keys.
   void open();
+  /// Shows the line for good: Escape empties it, and what comes after that is the window's.
+  void stay();
   /// Shows all items again and goes back to the list.
   void dismiss();
   /// Says anew how much is shown.
@@ -42,6 +44,7 @@ class ListFilter : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void followView(const QEvent& event);

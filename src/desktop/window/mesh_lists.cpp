@@ -55,6 +55,7 @@ QWidget* makeFilter(const Side& side, NameListing& listing, ListView& names, QWi
 QPlainTextEdit& makePage(Maker& maker, front::TextBox& box, QWidget& parent, const char* name) {
   auto* page = new QPlainTextEdit(&parent);
   page->setAccessibleName(QString::fromLatin1(name));
+  page->setTabChangesFocus(true);
   maker.bindings().add(std::make_unique<PageBinding>(maker.dispatcher(), box, *page));
   return *page;
 }

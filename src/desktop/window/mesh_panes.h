@@ -5,12 +5,11 @@
 #include "front/form_obj.h"
 #include "front/session.h"
 
-class QToolBar;
-
 namespace norvik::desktop {
 
-/// The tools, in the order of the work: read, change, map, play.
-QToolBar* makeMeshTools(Maker& maker, front::FormOBJ& form, QWidget& parent);
+/// The tools, in the order of the work: read, change, map, play. Where they have no room side by
+/// side they stand in two rows.
+QWidget* makeMeshTools(Maker& maker, front::FormOBJ& form, QWidget& parent);
 
 /// The options of the views.
 QWidget* makeMeshOptions(Maker& maker, front::FormOBJ& form, QWidget& parent);
@@ -19,6 +18,9 @@ QWidget* makeMeshOptions(Maker& maker, front::FormOBJ& form, QWidget& parent);
 /// numbers, the merged mesh under another name.
 QWidget* makeMeshSurgery(Maker& maker, front::Session& session, front::FormOBJ& form,
                          QWidget& parent);
+
+/// The box of the cut in numbers, for those who draw none; there while the cut is armed.
+QWidget* makeLopRow(Maker& maker, front::FormOBJ& form, QWidget& parent);
 
 /// The lists of groups and materials, the notes, and what the tools ask for.
 QWidget* makeMeshLists(Maker& maker, front::Session& session, front::FormOBJ& form,

@@ -112,6 +112,7 @@ QWidget* makeMeshSurgery(Maker& maker, front::Session& session, front::FormOBJ& 
   });
   column->addWidget(turn);
   column->addWidget(makeShift(maker, form, *panel));
+  column->addWidget(makeLopRow(maker, form, *panel));
   column->addWidget(makeSaveMerged(maker, session, *panel));
   panel->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   return panel;

@@ -11,8 +11,11 @@
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -20,7 +23,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -32,6 +34,12 @@ namespace {
 
 constexpr int kSideWidth = 380;
 constexpr int kPermille = 1000;
+
+bool typesInto(const QWidget* widget) {
+  return qobject_cast<const QLineEdit*>(widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
+         qobject_cast<const QAbstractSpinBox*>(widget) != nullptr;
+}
 
 /// Whether Space ticks a row there.
 bool takesTicks(const QObject* watched) {
@@ -128,6 +136,10 @@ QWidget* MeshWindow::makeStatus(front::Session& session, front::FormOBJ& form) {
   progress_->setFixedSize(kProgressWidth, 10);
   line->addWidget(progress_);
   cancel_ = &passStop_.addButton(*bar);
+  // The views keep their size when it comes and goes.
+  QSizePolicy policy = cancel_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  cancel_->setSizePolicy(policy);
   line->addWidget(cancel_);
   return bar;
 }
@@ -172,12 +184,23 @@ bool MeshWindow::eventFilter(QObject* watched, QEvent* event) {
   const auto& pressed = *static_cast<QKeyEvent*>(event);
   if (uncover(pressed) || unmark(pressed)) return true;
   const std::string key = keyName(*static_cast<QKeyEvent*>(event));
+  // Space is the view's, so Enter chooses an option.
+  if (auto* option = qobject_cast<QRadioButton*>(watched); option != nullptr && key == "Enter") {
+    option->click();
+    return true;
+  }
   const bool ofTheView = (key == "Space" && !takesTicks(watched)) || key.size() == 1;
   return ofTheView ? deliverKey(key) : FormWindow::eventFilter(watched, event);
 }
 
 void MeshWindow::keyPressEvent(QKeyEvent* event) {
-  if (!uncover(*event) && !unmark(*event)) FormWindow::keyPressEvent(event);
+  if (uncover(*event) || unmark(*event)) return;
+  // Out of what one types into the keys go back to the views.
+  if (event->key() == Qt::Key_Escape && focusWidget() != views_ && typesInto(focusWidget())) {
+    views_->setFocus(Qt::OtherFocusReason);
+  } else {
+    FormWindow::keyPressEvent(event);
+  }
 }
 
 /// The work comes back from under the boss's pictures.

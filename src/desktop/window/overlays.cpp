@@ -1,11 +1,13 @@
 #include "desktop/window/overlays.h"
 
 #include "desktop/bind/text_binding.h"
+#include "desktop/window/escape.h"
 #include "desktop/window/headings.h"
 #include "desktop/window/overlay.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -29,6 +31,7 @@ Overlay* makeListCard(Maker& maker, front::ListBox& list, QWidget& over, Overlay
   }
   auto& view = maker.list(list, *card);
   view.setFrameStyle(QFrame::NoFrame);
+  view.setAccessibleName(title);
   column->addWidget(&view);
   maker.showWhileAny(*card, {&list});
   maker.watch({&list}, [card] {
@@ -71,7 +74,24 @@ void makeTextureCard(Maker& maker, front::Opening& opening, QWidget& over) {
     if (card.bottom() > area.bottom() - 4) card.moveBottom(corner.y() - 2);
     return card;
   };
-  makeListCard(maker, opening.ListAllTexMaps, over, place, {});
+  auto* card = makeListCard(maker, opening.ListAllTexMaps, over, place, {});
+  auto* view = card->findChild<ListView*>();
+  view->setAccessibleName(QStringLiteral("All textures of the file"));
+  auto* box = over.findChild<QWidget*>(QStringLiteral("TextMainTex"));
+  if (box == nullptr) return;
+  // What the mouse over the box does, Down does in it; the list then has the keys until it goes.
+  auto* down = new QShortcut(QKeySequence(Qt::Key_Down), box);
+  down->setContext(Qt::WidgetShortcut);
+  QObject::connect(down, &QShortcut::activated, view, [&maker, &opening, view] {
+    maker.dispatcher().raise(opening.TextMainTex.moved, front::Mouse{});
+    if (view->isVisible()) view->setFocus(Qt::OtherFocusReason);
+  });
+  onEscape(*view, [&maker, &opening] {
+    maker.dispatcher().run(opening.ListAllTexMaps.name(), [&] { opening.ListAllTexMaps.hide(); });
+  });
+  maker.watch({&opening.ListAllTexMaps}, [&opening, view, box] {
+    if (!opening.ListAllTexMaps.visible() && view->hasFocus()) box->setFocus();
+  });
 }
 
 void makeBracketCard(Maker& maker, front::Opening& opening, QWidget& over) {
@@ -124,6 +144,7 @@ void makeNotesCard(Maker& maker, front::Opening& opening, QWidget& over) {
   column->addWidget(heading);
   auto* page = new QPlainTextEdit(card);
   page->setAccessibleName(QStringLiteral("Notes"));
+  page->setTabChangesFocus(true);
   maker.bindings().add(
       std::make_unique<PageBinding>(maker.dispatcher(), opening.TextOpeningNotes, *page));
   column->addWidget(page);

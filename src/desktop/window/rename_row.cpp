@@ -33,7 +33,7 @@ QWidget* makeRenameRow(Maker& maker, front::Opening& opening, QWidget& parent) {
   QHBoxLayout& line = row->line();
   QWidget* channel = maker.make(opening.OptionChannelRename, *row);
   QWidget* part = maker.make(opening.OptionBodyPartRename, *row);
-  auto* label = new QLabel(QStringLiteral("&New name"), row);
+  auto* label = new QLabel(QStringLiteral("Ne&w name"), row);
   auto& edit = maker.line(opening.TextMorphRename, *row);
   edit.setFixedWidth(kName);
   edit.setAccessibleName(QStringLiteral("New name"));
@@ -47,7 +47,8 @@ QWidget* makeRenameRow(Maker& maker, front::Opening& opening, QWidget& parent) {
                           static_cast<QWidget*>(next), static_cast<QWidget*>(hint)}) {
     line.addWidget(widget);
   }
-  line.addStretch();
+  hint->setWordWrap(true);
+  line.setStretchFactor(hint, 1);
 
   QObject::connect(next, &QPushButton::clicked, row, [&maker, &opening] {
     maker.dispatcher().raise(opening.PictureRenameMorph.released, front::Mouse{});

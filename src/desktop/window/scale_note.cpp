@@ -52,8 +52,6 @@ void ScaleNote::begin() {
 }
 
 void ScaleNote::readOn() {
-  // A tool that lets the window live has the machine to itself.
-  if (!maker_.dispatcher().open()) return;
   bool more = false;
   if (!text::ignoringErrors([&] { more = forecast_->readOn(); })) return forget();
   if (more) return;
@@ -67,8 +65,8 @@ void ScaleNote::tell() {
   const QString what = count == 1 ? QStringLiteral("1 coordinate of this file")
                                   : QStringLiteral("%1 coordinates of this file")
                                         .arg(QLocale().toString(static_cast<qulonglong>(count)));
-  setText(QStringLiteral("%1 will be written without the point. First in this line:\n"
-                         "%2\nas it will be:\n%3")
+  setText(QStringLiteral("%1 will be written without their point. The first such line as it is, "
+                         "and as it will be:\n%2\n%3")
               .arg(what, shown(forecast_->before()), shown(forecast_->after())));
   forecast_.reset();
   show();

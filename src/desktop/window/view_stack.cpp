@@ -5,7 +5,11 @@
 #include "desktop/images.h"
 #include "obj/surgery/overlays.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -30,6 +34,26 @@ class BlankView : public QWidget {
 bool isOverlay(front::FormOBJ& form, const front::PictureBox& picture) {
   const auto overlays = form.overlays();
   return std::find(overlays.begin(), overlays.end(), &picture) != overlays.end();
+}
+
+void turnWheel(QWidget& view, int by) {
+  const QPointF middle = view.rect().center();
+  QWheelEvent event(middle, view.mapToGlobal(middle), {}, QPoint(0, by), Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(&view, &event);
+}
+
+/// Moves what is seen as the middle button does.
+void pull(QWidget& view, QPoint by) {
+  const QPointF middle = view.rect().center();
+  const auto send = [&view](QEvent::Type type, const QPointF& place, Qt::MouseButton button,
+                            Qt::MouseButtons held) {
+    QMouseEvent event(type, place, view.mapToGlobal(place), button, held, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &event);
+  };
+  send(QEvent::MouseButtonPress, middle, Qt::MiddleButton, Qt::MiddleButton);
+  send(QEvent::MouseMove, middle + by, Qt::NoButton, Qt::MiddleButton);
+  send(QEvent::MouseButtonRelease, middle + by, Qt::MiddleButton, Qt::NoButton);
 }
 
 /// A second mesh over the one in view: its picture is moved within a view that stays where it is.
@@ -113,6 +137,44 @@ void ViewStack::resizeEvent(QResizeEvent* event) {
   place();
 }
 
+void ViewStack::keyPressEvent(QKeyEvent* event) {
+  if (!moveByKey(*event)) QFrame::keyPressEvent(event);
+}
+
+/// What the wheel and the middle button do on the picture that is seen, Ctrl does with a key.
+bool ViewStack::moveByKey(const QKeyEvent& event) {
+  const auto seen = std::find_if(views_.begin(), views_.end(), [](const QWidget* view) {
+    return view->isVisible() && dynamic_cast<const SurfaceView*>(view) != nullptr;
+  });
+  if (seen == views_.end() || !event.modifiers().testFlag(Qt::ControlModifier)) return false;
+  QWidget& view = **seen;
+  constexpr int kNotch = 120;
+  constexpr int kStep = 40;
+  switch (event.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      turnWheel(view, kNotch);
+      return true;
+    case Qt::Key_Minus:
+      turnWheel(view, -kNotch);
+      return true;
+    case Qt::Key_Left:
+      pull(view, {kStep, 0});
+      return true;
+    case Qt::Key_Right:
+      pull(view, {-kStep, 0});
+      return true;
+    case Qt::Key_Up:
+      pull(view, {0, kStep});
+      return true;
+    case Qt::Key_Down:
+      pull(view, {0, -kStep});
+      return true;
+    default:
+      return false;
+  }
+}
+
 void ViewStack::place() {
   const QRect area = contentsRect();
   for (QWidget* view : views_) view->setGeometry(area);
@@ -135,7 +197,8 @@ void ViewStack::tellWhatToDo() {
   const bool blank = !seen && (!read || !form_.PictureObjViewer2.visible());
   hint_->setVisible(blank && form_.LabelView.visible() && !form_.ImageBoss.visible());
   QPalette ink = palette();
-  if (form_.PictureObjViewer2.visible()) ink.setColor(QPalette::WindowText, QColor("#6c7684"));
+  // The 3D view is white in any theme.
+  if (form_.PictureObjViewer2.visible()) ink.setColor(hint_->foregroundRole(), QColor("#6c7684"));
   hint_->setPalette(ink);
   hint_->setText(read ? QStringLiteral("Space spins the mesh, View draws it again.")
                       : QStringLiteral("View reads the mesh and draws it."));

@@ -28,11 +28,13 @@ class ViewStack : public QFrame {
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void addView(QWidget& view);
   QWidget& make3DView(Maker& maker, front::PictureBox& picture, DesktopFrontEnd& frontEnd);
   void place();
+  bool moveByKey(const QKeyEvent& event);
   void tellWhatToDo();
   void showMark();
 
