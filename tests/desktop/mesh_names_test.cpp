@@ -176,6 +176,34 @@ TEST_F(MeshNamesTest, APendingRenameIsTakenBackAlone) {
   EXPECT_EQ(pendingRows(), QStringList{"neck (drop)"});
 }
 
+TEST_F(MeshNamesTest, TheRingStaysAroundTheRenamesWhenTheyMove) {
+  ListView& list = openNames();
+  auto& line = part<QLineEdit>("InPlace.ListGroups");
+  for (const char* name : {"throat", "gorge"}) {
+    go(list, 0);
+    QTest::keyClick(&list, Qt::Key_F2);
+    QTest::keyClicks(&line, QString::fromLatin1(name));
+    QTest::keyClick(&line, Qt::Key_Return);
+  }
+  go(list, 1);
+  QTest::keyClick(&list, Qt::Key_Delete);
+  auto& rows = part<QListWidget>("PendingRows.ListGrpRen");
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    workshop().activateWindow();
+    rows.setFocus();
+    return rows.hasFocus();
+  }));
+  const int before = rows.mapTo(&workshop(), QPoint(0, 0)).y();
+  rows.setCurrentRow(0);
+  QTest::keyClick(&rows, Qt::Key_Delete);
+  // The names give and take the room of what is said below.
+  EXPECT_TRUE(QTest::qWaitFor([&] { return rows.mapTo(&workshop(), QPoint(0, 0)).y() != before; }));
+  constexpr int kAround = 2;
+  const QRect around(rows.mapTo(&workshop(), QPoint(0, 0)), rows.size());
+  EXPECT_EQ(part<QWidget>("FocusRing").geometry(),
+            around.adjusted(-kAround, -kAround, kAround, kAround));
+}
+
 TEST_F(MeshNamesTest, TheFilterNarrowsWhatIsShownAndChangesNothingElse) {
   ASSERT_EQ(seenRows("RichTextBoxGroups"), (QStringList{"neck", "head", "hair"}));
   auto& filter = part<QLineEdit>("Filter.ListGroups");

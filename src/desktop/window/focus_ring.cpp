@@ -49,14 +49,21 @@ FocusRing::~FocusRing() {
 }
 
 void FocusRing::follow(QWidget* now) {
-  if (around_) around_->removeEventFilter(this);
+  for (const QPointer<QWidget>& widget : watched_) {
+    if (widget) widget->removeEventFilter(this);
+  }
+  watched_.clear();
   delete ring_;
   around_ = now;
   // An entry shows it by its own frame.
   const bool shown = now != nullptr && qobject_cast<QLineEdit*>(now) == nullptr &&
                      isOfAForm(*now->window()) && now != now->window();
   if (!shown) return;
-  now->installEventFilter(this);
+  // What lies around the control moves it too, as a list that scrolls does.
+  for (QWidget* widget = now; widget != now->window(); widget = widget->parentWidget()) {
+    widget->installEventFilter(this);
+    watched_.append(widget);
+  }
   ring_ = new Ring(now->window());
   place();
 }

@@ -1,6 +1,7 @@
 #pragma once
 // Where the keys go.
 
+#include <QList>
 #include <QPointer>
 #include <QWidget>
 
@@ -22,6 +23,7 @@ class FocusRing : public QObject {
 
   QPointer<QWidget> ring_;
   QPointer<QWidget> around_;
+  QList<QPointer<QWidget>> watched_;  ///< the control and all that it lies in
 };
 
 }  // namespace norvik::desktop

@@ -41,6 +41,7 @@ ListFilter::ListFilter(Narrowed narrowed, QWidget& parent)
   view.installEventFilter(this);
   count_->setObjectName(QStringLiteral("FilterCount.") + narrowed_.name);
   count_->setForegroundRole(QPalette::PlaceholderText);
+  count_->hide();
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
   line->addWidget(edit_, 1);
@@ -73,6 +74,7 @@ void ListFilter::dismiss() {
 
 void ListFilter::count() {
   count_->setText(narrowed_.told());
+  count_->setVisible(!count_->text().isEmpty());
 }
 
 /// What was typed is gone when the list comes up again.
