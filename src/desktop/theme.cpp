@@ -3,8 +3,10 @@
 #include "desktop/ink.h"
 
 #include <QApplication>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 #include <QVariant>
 #include <QWidget>
 
@@ -58,6 +60,29 @@ class PlainStyle : public QProxyStyle {
                 QStyleHintReturn* answer) const override {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     return QProxyStyle::styleHint(hint, option, widget, answer);
+  }
+
+  /// An empty box to tick is dark on dark where the colours are: its edge says where it is.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool round = element == PE_IndicatorRadioButton;
+    const bool square = element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck;
+    const QPalette& palette = option->palette;
+    const bool dark =
+        palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
+    if (!dark || (!round && !square)) return;
+    const QRectF edge = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(palette.color(QPalette::PlaceholderText));
+    painter->setBrush(Qt::NoBrush);
+    if (round) {
+      painter->drawEllipse(edge);
+    } else {
+      painter->drawRect(edge);
+    }
+    painter->restore();
   }
 };
 

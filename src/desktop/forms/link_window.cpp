@@ -106,7 +106,7 @@ QWidget* LinkWindow::makeSteps() {
   addStep(maker(), form_.LabelPBM4, form_.TextPBM4, {}, *column, *steps);
   addStep(maker(), form_.LabelPBMRatio, form_.TextPBMRatio, {}, *column, *steps);
   auto* hint = new QLabel(QStringLiteral("Enter writes the link into the figure."), steps);
-  hint->setEnabled(false);
+  hint->setForegroundRole(QPalette::PlaceholderText);
   maker().showWhileAny(*hint, {&form_.TextPBMRatio});
   column->addWidget(hint);
   column->addStretch(1);

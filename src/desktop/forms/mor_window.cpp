@@ -65,7 +65,7 @@ MorWindow::MorWindow(const WindowParts& parts, pose::FormMOR& form)
   value.setFixedWidth(kValueWidth);
   word.setBuddy(&value);
   auto* hint = new QLabel(QStringLiteral("Enter sets it for all morphs of that name"), this);
-  hint->setEnabled(false);
+  hint->setForegroundRole(QPalette::PlaceholderText);
   line->addWidget(&word);
   line->addWidget(&value);
   line->addWidget(hint, 1);

@@ -39,7 +39,7 @@ RatioWindow::RatioWindow(const WindowParts& parts, erc::FormListEMCs& form)
           "to ratio."),
       this);
   hint->setWordWrap(true);
-  hint->setEnabled(false);
+  hint->setForegroundRole(QPalette::PlaceholderText);
   column->addWidget(hint);
   auto* line = new QHBoxLayout;
   QLabel& word = maker().label(form.Label1, *this);
