@@ -56,10 +56,6 @@ QWidget* makeGeometries(Maker& maker, front::Opening& opening, QWidget& parent) 
   list.setToolTip(
       QStringLiteral("Choose what to export, then DONE. A right click puts the list away."));
   column->addWidget(&list, 1);
-  auto* hint = new QLabel(QStringLiteral("Click what to export, then DONE."), panel);
-  hint->setForegroundRole(QPalette::PlaceholderText);
-  hint->setWordWrap(true);
-  column->addWidget(hint);
   auto& files = maker.frame(opening.FrameExtractObj, *panel);
   auto* row = new QHBoxLayout(&files);
   row->setContentsMargins(8, 2, 8, 2);
