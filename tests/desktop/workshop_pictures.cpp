@@ -50,6 +50,8 @@ void takeWorkshopPictures(Operator& hand, const std::function<void(const QString
 
   hand.click(u"OptionFrontView"_s);
   hand.click(u"LabelView"_s);
+  takeTemplate(hand, camera, window);
+  hand.click(u"LabelView"_s);
   hand.click(u"LabelHotKeys"_s);
   chooseTheme(u"dark"_s);
   camera.take(u"workshop-dark"_s, window);
@@ -57,8 +59,6 @@ void takeWorkshopPictures(Operator& hand, const std::function<void(const QString
   camera.take(u"workshop-boss"_s, window);
   hand.click(u"LabelPlay"_s);
   chooseTheme(u"light"_s);
-  hand.click(u"LabelView"_s);
-  takeTemplate(hand, camera, window);
   window.close();
   QTest::qWait(50);
 }
