@@ -1,47 +1,47 @@
 // Times the read of a mesh, with its store and its three flat views, against a plain OBJ loader
-// that only fills arrays.
+// that only fills arrays, and the merge of the mesh with itself behind that.
 // Usage: norvik-mesh FOLDER FILE [RUNS]
 //        norvik-mesh --read FOLDER FILE      one read by the workshop, for the timing
+//        norvik-mesh --merge FOLDER FILE     the same, a second mesh, the merge and its view
 //        norvik-mesh --load FOLDER FILE      one by the loader
 
+#include "bench_desk.h"
 #include "child.h"
 #include "front/form_obj.h"
-#include "headless/script_front_end.h"
-#include "host.h"
-#include "workbench/workbench.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ostream>
 #include <stdexcept>
 #include <tiny_obj_loader.h>
 
 namespace {
 
+using norvik::bench::Bench;
 using norvik::bench::Cost;
+using norvik::bench::mustHold;
 using norvik::bench::runCommand;
 
 constexpr double kLimit = 1.2;  // times of the loader
 
-void read(const std::string& folder, const std::string& file) {
-  norvik::bench::UnflushedHost host;
-  norvik::text::Disk disk(host);
-  disk.mount('C', folder);
-  disk.makeFolders("C:\\Norvik");
-  norvik::front::Settings settings;
-  std::ostream nowhere(nullptr);
-  norvik::headless::Transcript transcript(nowhere);
-  norvik::headless::Outcome outcome;
-  norvik::headless::ScriptFrontEnd front(transcript, outcome, {});
-  norvik::workbench::Workbench workbench(front, disk, settings, "C:\\Norvik", "");
-  norvik::front::Session& session = workbench.session();
-  auto* form = dynamic_cast<norvik::front::FormOBJ*>(session.findForm("FormOBJ"));
+norvik::front::FormOBJ& read(Bench& bench) {
+  bench.disk.makeFolders("C:\\Norvik");
+  auto* form = dynamic_cast<norvik::front::FormOBJ*>(bench.session.findForm("FormOBJ"));
   if (form == nullptr) throw std::runtime_error("no workshop");
-  session.opening.LabelOBJFileName.setCaption("C:\\" + file);
-  session.load(*form);
+  bench.opening.LabelOBJFileName.setCaption(bench.path);
+  bench.session.load(*form);
   form->LabelView.clicked.raise();
-  if (disk.size("C:\\Norvik\\FArray.txt") == 0) throw std::runtime_error("no faces were read");
+  mustHold(bench.disk.size("C:\\Norvik\\FArray.txt") > 0, "no faces were read");
+  return *form;
+}
+
+void merge(Bench& bench, const std::string& file) {
+  norvik::front::FormOBJ& form = read(bench);
+  bench.choose(file);
+  form.PictureAddOBJ.released.raise({});
+  form.PictureMerge.released.raise({});
+  mustHold(bench.opening.LabelOBJFileName.caption() == "C:\\Norvik\\MergeTest.obj",
+           "nothing merged");
 }
 
 void load(const std::string& folder, const std::string& file) {
@@ -78,15 +78,19 @@ void compare(const std::string& folder, const std::string& file, int runs) {
   const std::string self = "/proc/self/exe";
   Costs own;
   Costs loader;
+  Costs merged;
   for (int i = 0; i < runs; ++i) {
     loader.add(runCommand({self, "--load", folder, file}));
     own.add(runCommand({self, "--read", folder, file}));
+    merged.add(runCommand({self, "--merge", folder, file}));
   }
   const double times = own.median() / loader.median();
   std::printf("| %-20s | %7s | %6s |\n|---|--:|--:|\n", "", "ms", "MB");
   std::printf("| %-20s | %7.1f | %6.1f |\n", "loader, into arrays", loader.median(),
               loader.megabytes);
   std::printf("| %-20s | %7.1f | %6.1f |\n", "read, store, 3 views", own.median(), own.megabytes);
+  std::printf("| %-20s | %7.1f | %6.1f |\n", "and a merge, viewed", merged.median(),
+              merged.megabytes);
   std::printf("\n%.2f times the loader's time, of %.0f%s\n", times, kLimit,
               times <= kLimit ? "" : ": MISSED");
 }
@@ -97,7 +101,11 @@ int main(int count, char** arguments) {
   const std::vector<std::string> words(arguments + 1, arguments + count);
   try {
     if (words.size() == 3 && words[0] == "--read") {
-      read(words[1], words[2]);
+      Bench bench(words[1], words[2]);
+      read(bench);
+    } else if (words.size() == 3 && words[0] == "--merge") {
+      Bench bench(words[1], words[2]);
+      merge(bench, words[2]);
     } else if (words.size() == 3 && words[0] == "--load") {
       load(words[1], words[2]);
     } else if (words.size() == 2 || words.size() == 3) {
