@@ -348,7 +348,7 @@ void DesktopFrontEnd::runtimeError(const text::FileError& error) {
 
 void DesktopFrontEnd::endProcess() {
   ended_ = true;
-  QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+  QTimer::singleShot(0, qApp, SLOT(quit()));
 }
 
 QString windowFilter(std::string_view filter) {
