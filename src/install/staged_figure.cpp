@@ -52,7 +52,7 @@ std::string_view complaint(Unpacked outcome) {
       return "The zip file holds more than Norvik unpacks, which is 4 GB or 65,535 files. Nothing "
              "was unpacked.";
     case Unpacked::tooDense:
-      return "The zip file unpacks to more than a thousand times its own size, as no figure does. "
+      return "The zip file unpacks to more than 1,100 times its own size, as no figure does. "
              "Nothing was unpacked.";
     case Unpacked::notSupported:
       return "This Norvik was built without libarchive and cannot unpack zip files. An unzipper of "

@@ -7,7 +7,6 @@
 #include "text/number_text.h"
 #include "text/rewrite_pass.h"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -63,10 +62,7 @@ void listBatch(front::Session& session) {
   list.clear();
   list.add(session.opening.LabelOBJFileName.caption());
   const std::string folder = session.disk.currentFolder() + "\\";
-  std::vector<std::string> names = session.disk.matching(folder + "*.obj");
-  std::stable_sort(names.begin(), names.end(), [](const std::string& one, const std::string& two) {
-    return text::lowered(one) < text::lowered(two);
-  });
+  const std::vector<std::string> names = session.disk.matching(folder + "*.obj");
   for (std::size_t i = 0; i < names.size(); ++i) list.add(i == 0 ? names[i] : folder + names[i]);
 }
 

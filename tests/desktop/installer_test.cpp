@@ -123,7 +123,7 @@ TEST_F(OwnUnpackingTest, ALimitIsNamedBelowTheMessage) {
   install();
   ASSERT_EQ(asker_.boxes.size(), 1U) << "nothing is offered: flat, it is as much";
   EXPECT_EQ(asker_.boxes[0].text, kNoFigure);
-  EXPECT_TRUE(asker_.boxes[0].note.contains("a thousand times its own size"));
+  EXPECT_TRUE(asker_.boxes[0].note.contains("1,100 times its own size"));
   EXPECT_TRUE(std::filesystem::is_empty(staging_));
 }
 
